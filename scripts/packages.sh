@@ -1,0 +1,75 @@
+# shellcheck shell=bash
+# The Debian packages that Clinorama needs, and a function that installs those that are missing.
+# This file is sourced by the scripts beside it; it does nothing by itself.
+
+# To build. The tests' and the benchmarks' libraries are small and belong to every configuration.
+# shellcheck disable=SC2034  # the lists are read by the scripts that source this file
+build_packages=(
+  g++ cmake ninja-build pkgconf
+  qt6-base-dev qt6-svg-dev
+  libgtest-dev libbenchmark-dev libmuparser-dev
+)
+
+# To run. The pages ask for these two fonts by name.
+# shellcheck disable=SC2034
+run_packages=(fonts-dejavu-core fonts-comic-neue)
+
+# To run on a virtual display, and to look at that display from elsewhere.
+# shellcheck disable=SC2034
+display_packages=(xvfb openbox xauth x11-utils)
+# shellcheck disable=SC2034
+viewing_packages=(x11vnc)
+
+# To test: the smoke test drives a real window, and the layout of the code is checked.
+# shellcheck disable=SC2034
+test_packages=(xdotool imagemagick clang-format)
+
+# To typeset the text pictures (scripts/pages): their fonts, asked for by name. Node.js comes on top.
+# shellcheck disable=SC2034
+page_packages=(fonts-crosextra-carlito fonts-oflb-asana-math fonts-comic-neue)
+
+# To examine the code by hand (scripts/lint).
+# shellcheck disable=SC2034
+lint_packages=(clang-tidy)
+
+# Installs those of the packages named in the arguments that are missing, without asking questions.
+# Says nothing and needs no network when there is nothing to install. Fails when it may not install.
+ensure_packages() {
+  if ! command -v dpkg-query >/dev/null || ! command -v apt-get >/dev/null; then
+    echo "This system has no Debian packages. Please see to the counterparts of: $*" >&2
+    return 0  # They may well be there; if not, the step that needs them says so.
+  fi
+
+  local package missing=()
+  for package in "$@"; do
+    if [[ "$(dpkg-query -W -f '${db:Status-Status}' "$package" 2>/dev/null)" != installed ]]; then
+      missing+=("$package")
+    fi
+  done
+  if ((${#missing[@]} == 0)); then
+    return 0
+  fi
+
+  local as_root=()
+  if ((EUID != 0)); then
+    if ! command -v sudo >/dev/null; then
+      echo "Some packages are missing. Please install them as root, then try again:" >&2
+      echo "  apt-get install --no-install-recommends ${missing[*]}" >&2
+      return 1
+    fi
+    as_root=(sudo)
+    if [[ ! -t 0 ]]; then
+      as_root+=(-n)  # Nobody is there to type a password: fail instead of waiting.
+    fi
+  fi
+
+  echo "Installing: ${missing[*]}"
+  # Another installation may be under way: wait for its lock.
+  local apt=("${as_root[@]}" env DEBIAN_FRONTEND=noninteractive
+             apt-get -qq -o DPkg::Lock::Timeout=600 -o Dpkg::Use-Pty=0)
+  if ! "${apt[@]}" update </dev/null ||
+     ! "${apt[@]}" install -y --no-install-recommends "${missing[@]}" </dev/null >/dev/null; then
+    echo "The packages could not be installed: ${missing[*]}" >&2
+    return 1
+  fi
+}
