@@ -1,0 +1,75 @@
+#include "engine/clsEquation.h"
+
+#include <utility>
+
+#include "engine/failure.h"
+#include "engine/text.h"
+#include "engine/tokeniser.h"
+#include "shell/Module1.h"
+
+namespace clinorama {
+
+namespace {
+
+/// The one place where failures of the engine become errors of the interpreter. What a user can do
+/// something about keeps its number; anything else means that the expression is no good.
+[[noreturn]] void RaiseError(const engine::Failure& failure) {
+  const bool own = failure.number >= engine::WrongParentheses;
+  if (own || failure.number == engine::InvalidArgument || failure.number == engine::Overflow ||
+      failure.number == engine::DivisionByZero) {
+    throw ErroInterpretador(failure.number, failure.description);
+  }
+  throw ErroInterpretador(engine::InvalidExpression,
+                          engine::DescriptionOf(engine::InvalidExpression));
+}
+
+}  // namespace
+
+void clsEquation::Graus(bool emGraus) {
+  Alterada_ = Alterada_ || emGraus != EmGraus_;
+  EmGraus_ = emGraus;
+}
+
+void clsEquation::VarClear() {
+  Variaveis_.Clear();
+  Alterada_ = true;
+}
+
+void clsEquation::Equation(std::string expressao) {
+  Analisada_ = false;
+  Alterada_ = true;
+  Expressao_ = engine::LowerCase(std::move(expressao));
+}
+
+void clsEquation::VarRemove(std::string_view name) {
+  Variaveis_.Remove(name);
+  Alterada_ = true;
+}
+
+void clsEquation::Solve() {
+  try {
+    if (!Analisada_) {
+      Interpretar();
+    }
+    if (avaliador_.Empty()) {  // no text was ever set, or one without a single token
+      engine::Raise(engine::IndexOutOfRange);
+    }
+    ErroDominio_ = false;
+    Resultado_ = ForaDoDominio;
+    const engine::Avaliacao avaliacao = avaliador_.Evaluate(Variaveis_);
+    ErroDominio_ = avaliacao.erroDominio;
+    Resultado_ = ErroDominio_ ? Module1::CodigoDominio : avaliacao.resultado;
+    Alterada_ = false;
+  } catch (const engine::Failure& failure) {
+    RaiseError(failure);
+  }
+}
+
+/// Becomes valid only at its very end, so a text that is rejected here is rejected by every
+/// `Solve`.
+void clsEquation::Interpretar() {
+  avaliador_.Prepare(engine::Interpretar(Expressao_), Variaveis_);
+  Analisada_ = true;
+}
+
+}  // namespace clinorama

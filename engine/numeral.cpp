@@ -1,0 +1,38 @@
+#include "engine/numeral.h"
+
+#include <cstdlib>
+#include <limits>
+#include <string>
+
+#include "engine/failure.h"
+
+namespace clinorama::engine {
+
+NumeralReading ReadNumeral(std::string_view text) {
+  std::string digits;
+  bool comma = false;
+  std::size_t decimals = 0;
+  for (const char c : text) {
+    if (c >= '0' && c <= '9') {
+      digits += c;
+      decimals += comma ? 1 : 0;
+    } else if (c == ',' && !comma) {
+      comma = true;
+    } else {
+      return {0, TypeMismatch};
+    }
+  }
+  if (digits.empty()) {
+    return {0, TypeMismatch};
+  }
+  // The decimal mark that strtod knows is the locale's. A whole number with a negative power of ten
+  // has no mark, so it reads alike everywhere, and still is rounded only once.
+  const std::string plain = digits + "e-" + std::to_string(decimals);
+  const double value = std::strtod(plain.c_str(), nullptr);
+  if (value > std::numeric_limits<double>::max()) {
+    return {0, Overflow};
+  }
+  return {value, 0};
+}
+
+}  // namespace clinorama::engine
