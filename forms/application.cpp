@@ -1,0 +1,93 @@
+#include "forms/application.h"
+
+#include <cstdlib>
+#include <exception>
+
+#include "forms/page_ended.h"
+
+namespace clinorama::forms {
+namespace {
+
+Application* current = nullptr;
+
+// Counts a handler of a page for as long as it runs.
+class HandlerCount {
+ public:
+  explicit HandlerCount(int& count) : count_(count) { ++count_; }
+  ~HandlerCount() { --count_; }
+  HandlerCount(const HandlerCount&) = delete;
+  HandlerCount& operator=(const HandlerCount&) = delete;
+
+ private:
+  int& count_;
+};
+
+}  // namespace
+
+Application::Application(Host& host) : host_(host) { current = this; }
+
+Application::~Application() {
+  pages_.clear();
+  unloaded_.clear();
+  current = nullptr;
+}
+
+Application& Application::Current() { return *current; }
+
+void Application::Run(Page& page, const std::function<void()>& handler) {
+  if (!page.loaded_) return;
+  {
+    const HandlerCount counted(page.handlers_);
+    try {
+      handler();
+    } catch (const PageEnded&) {
+      // The page of this handler is gone, and the handler with it.
+    } catch (const std::exception& failure) {
+      MsgBox(failure.what());
+    }
+  }
+  DropUnloaded();
+}
+
+void Application::BecameActive(Page& page) {
+  if (active_ == &page || !page.loaded_) return;
+  active_ = &page;
+  Run(page, [&page] { page.Form_Activate(); });
+}
+
+void Application::VisibleChanged(Page& page) {
+  if (page.Visible) {
+    host_.Shown(page);
+    BecameActive(page);
+    return;
+  }
+  if (active_ == &page) active_ = nullptr;
+  host_.Hidden(page);
+}
+
+void Application::Unload(Page& page) {
+  for (auto slot = pages_.begin(); slot != pages_.end(); ++slot) {
+    if (slot->second.get() != &page) continue;
+    if (active_ == &page) active_ = nullptr;
+    page.loaded_ = false;
+    host_.Unloaded(page);
+    unloaded_.push_back(std::move(slot->second));
+    pages_.erase(slot);
+    return;
+  }
+}
+
+void Application::DropUnloaded() {
+  std::erase_if(unloaded_, [](const auto& page) { return page->handlers_ == 0; });
+}
+
+void MsgBox(const std::string& text, int style, const std::string& title) {
+  Application::Current().TheHost().MsgBox(text, style, title);
+}
+
+void End() {
+  Application::Current().TheHost().End();
+  std::abort();  // for the compiler: no host comes back from there
+}
+
+}  // namespace clinorama::forms

@@ -1,0 +1,62 @@
+#include "forms/control.h"
+
+#include <utility>
+
+#include "forms/application.h"
+
+namespace clinorama::forms {
+
+Control::Control(Container& parent, std::string name, const Rect& rect)
+    : Left(*this, rect.Left),
+      Top(*this, rect.Top),
+      Width(*this, rect.Width),
+      Height(*this, rect.Height),
+      name_(std::move(name)),
+      parent_(&parent),
+      page_(parent.page_) {
+  parent.children_.push_back(this);
+}
+
+Control::Control(Page& page, std::string name, const Rect& rect)
+    : Left(*this, rect.Left),
+      Top(*this, rect.Top),
+      Width(*this, rect.Width),
+      Height(*this, rect.Height),
+      name_(std::move(name)),
+      parent_(nullptr),
+      page_(&page) {}
+
+std::string Control::SpokenName() const {
+  const std::string caption = CaptionText();
+  if (!AccessibleName().empty()) {
+    return caption.empty() ? AccessibleName() : AccessibleName() + ": " + caption;
+  }
+  if (!caption.empty()) return caption;
+  return ToolTipText().empty() ? name_ : ToolTipText();
+}
+
+bool Control::Reachable() const {
+  return Visible && Enabled && (parent_ == nullptr || parent_->Reachable());
+}
+
+void Control::SetFocus() { Application::Current().TheHost().SetFocus(*this); }
+
+void Control::PropertyChanged(const PropertyBase& /*property*/) {
+  Application::Current().TheHost().Changed(*this);
+}
+
+void Control::Fire(const Event& event) {
+  Application::Current().Run(*page_, [&event] { event(); });
+}
+
+Control* FindControl(Container& container, const std::string& name) {
+  for (Control* child : container.Children()) {
+    if (child->Name() == name) return child;
+    auto* inner = dynamic_cast<Container*>(child);
+    if (inner == nullptr) continue;
+    if (Control* found = FindControl(*inner, name)) return found;
+  }
+  return nullptr;
+}
+
+}  // namespace clinorama::forms

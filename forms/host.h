@@ -1,0 +1,55 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "forms/color.h"
+#include "forms/surface.h"
+
+namespace clinorama::forms {
+
+class Control;
+class Page;
+class PictureBox;
+
+// What the pages need of the machine they run on. The desktop implements it with windows, the
+// tests with a script. Calls about controls of a page that has no window yet may come in and are
+// to be ignored: a window is built from the state of its page.
+class Host {
+ public:
+  Host() = default;
+  virtual ~Host() = default;
+  Host(const Host&) = delete;
+  Host& operator=(const Host&) = delete;
+
+  // Device pixels to a logical pixel, read when a page is created.
+  virtual double Density() const = 0;
+
+  // Build the page's window, or raise it, and give it the keyboard.
+  virtual void Shown(Page& page) = 0;
+  virtual void Hidden(Page& page) = 0;
+  // The page is about to be discarded; nothing may refer to it or its controls afterwards.
+  virtual void Unloaded(Page& page) = 0;
+
+  // A property of the control (or of the page itself) took a new value.
+  virtual void Changed(Control& control) = 0;
+  // Something was drawn since the surface's changed pixels were last taken.
+  virtual void Drawn(PictureBox& picture) = 0;
+  // Put what was drawn on the screen now, as often as a screen can show it.
+  virtual void Flush(PictureBox& picture) = 0;
+  virtual void PaintText(Raster& raster, const TextRun& run) = 0;
+  virtual void SetFocus(Control& control) = 0;
+
+  // Show a modal box; style 64 is the information icon, 0 none.
+  virtual void MsgBox(const std::string& text, int style, const std::string& title) = 0;
+  // Let the user choose a colour, starting from the present one; nothing when cancelled.
+  virtual std::optional<Color> ShowColor(Color now) = 0;
+
+  virtual void Sleep(int milliseconds) = 0;
+  // Deliver what is pending; handlers run nested.
+  virtual void DoEvents() = 0;
+  // End the program at once, from any depth of handlers.
+  [[noreturn]] virtual void End() = 0;
+};
+
+}  // namespace clinorama::forms

@@ -1,0 +1,58 @@
+#include "forms/number_text.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <locale>
+#include <sstream>
+
+#include "forms/failure.h"
+
+namespace clinorama::forms {
+
+std::string NumberText(double value) {
+  std::ostringstream out;
+  out.imbue(std::locale::classic());
+  out.precision(std::numeric_limits<double>::digits10);
+  // Adding zero makes a negative zero a plain one.
+  out << std::uppercase << value + 0.0;
+  std::string text = out.str();
+  std::replace(text.begin(), text.end(), '.', ',');
+  return text;
+}
+
+std::string PrintedNumber(double value) {
+  std::string text;
+  if (value >= 0) text += ' ';
+  text += NumberText(value);
+  text += ' ';
+  return text;
+}
+
+double Round(double value, int decimals) {
+  const double scale = std::pow(10.0, decimals);
+  const double scaled = value * scale;
+  // Beyond this a real has no decimals left to lose.
+  constexpr double LastWithDecimals = 4503599627370496.0;  // 2^52
+  if (!(std::abs(scaled) < LastWithDecimals)) return value;
+  return std::nearbyint(scaled) / scale;
+}
+
+double NumberFrom(std::string_view text) {
+  const auto first = text.find_first_not_of(' ');
+  if (first == std::string_view::npos) throw TypeMismatch();
+  std::string digits(text.substr(first, text.find_last_not_of(' ') - first + 1));
+  // A point would be taken for the decimal mark below.
+  if (digits.find_first_not_of("0123456789,+-eE") != std::string::npos) throw TypeMismatch();
+  std::replace(digits.begin(), digits.end(), ',', '.');
+
+  std::istringstream in(digits);
+  in.imbue(std::locale::classic());
+  double value = 0;
+  in >> value;
+  if (in.fail() && std::abs(value) == std::numeric_limits<double>::max()) throw Overflow();
+  if (in.fail() || in.peek() != std::istringstream::traits_type::eof()) throw TypeMismatch();
+  return value;
+}
+
+}  // namespace clinorama::forms

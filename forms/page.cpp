@@ -1,0 +1,52 @@
+#include "forms/page.h"
+
+#include <utility>
+
+#include "forms/application.h"
+#include "forms/page_ended.h"
+
+namespace clinorama::forms {
+
+Page::Page(std::string name, const Rect& clientArea, std::string caption)
+    : Container(*this, std::move(name), clientArea), Caption(*this, std::move(caption)) {
+  Visible = false;
+}
+
+void Page::Show() {
+  if (Visible) {
+    Application::Current().TheHost().Shown(*this);
+    Application::Current().BecameActive(*this);
+  } else {
+    Visible = true;
+  }
+}
+
+void Page::Unload() { Application::Current().Unload(*this); }
+
+void Page::UserClose() {
+  Visible = false;
+  Unload();
+}
+
+void Page::Wait(int milliseconds) {
+  Host& host = Application::Current().TheHost();
+  host.Sleep(milliseconds);
+  host.DoEvents();
+  if (!loaded_) throw PageEnded{};
+}
+
+void Page::WaitFor(const bool& flag) {
+  constexpr int StepMilliseconds = 50;
+  while (!flag) Wait(StepMilliseconds);
+}
+
+void Page::PropertyChanged(const PropertyBase& property) {
+  if (!loaded_) return;
+  if (&property == &Visible) {
+    Application::Current().VisibleChanged(*this);
+  } else {
+    Container::PropertyChanged(property);
+  }
+}
+
+}  // namespace clinorama::forms

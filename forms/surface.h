@@ -1,0 +1,140 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string>
+
+#include "forms/color.h"
+#include "forms/font.h"
+#include "forms/raster.h"
+
+namespace clinorama::forms {
+
+// A text on its way into a raster: where its upper left corner stands, in device pixels, and how
+// many device pixels make a logical one.
+struct TextRun {
+  double X = 0;
+  double Y = 0;
+  double Density = 1;
+  std::string Text;
+  forms::Font Font;
+  Color Ink;
+};
+
+// One drawing as an observer of a surface is told of it, with coordinates in user units.
+struct DrawingOperation {
+  enum class Kind { Clear, Line, Point, Circle, Text };
+  Kind What = Kind::Clear;
+  double X1 = 0;  // for a circle the centre, for a text the upper left corner
+  double Y1 = 0;
+  double X2 = 0;  // for a circle the radius
+  double Y2 = 0;
+  Color Pen{};
+  int DrawMode = 13;
+  int DrawStyle = 0;
+  int DrawWidth = 1;
+  bool Kept = false;  // whether it went to the kept picture too
+  std::string Text{};
+};
+
+// A drawing surface: a raster with a user scale and a pen. It holds two pictures, the kept one and
+// what is on the screen. With AutoRedraw true a drawing goes to both; with false it goes to the
+// screen only, and is gone when the surface is shown again after it was hidden.
+//
+// Sizes and pen widths are logical (15 twips to a pixel); the raster may be finer, by the density,
+// and pens, dots and dotted patterns widen with it. Coordinates are reduced to 32-bit reals before
+// they are mapped; one beyond their range is failure 6. Whatever lies outside is clipped, however
+// far. The surface knows no window system: it paints no text itself.
+class Surface {
+ public:
+  // Width and height in twips; density in device pixels to a logical pixel, above 0.
+  Surface(double width, double height, double density);
+  virtual ~Surface() = default;
+  Surface(const Surface&) = delete;
+  Surface& operator=(const Surface&) = delete;
+
+  // The pen and the text, which keep their values until they are changed.
+  bool AutoRedraw = false;
+  int DrawMode = 13;  // 13 copy, 2 not-merge, 6 invert
+  int DrawStyle = 0;  // 0 solid, 2 dotted; a wide pen draws solid
+  int DrawWidth = 1;  // logical pixels
+  int FillStyle = 1;  // kept for its readers; nothing here fills
+  Color FillColor;
+  Color ForeColor;
+  double CurrentX = 0;  // upper left corner of the next text, in user units
+  double CurrentY = 0;
+  forms::Font Font;
+
+  Color BackColor() const { return backColor_; }
+  // Sets the ground and wipes both pictures with it.
+  void BackColor(Color color);
+
+  // Maps the upper left corner to (x1, y1) and the lower right corner to (x2, y2).
+  void Scale(double x1, double y1, double x2, double y2);
+  // Measures in logical pixels from the upper left corner.
+  void ScaleInPixels();
+  // The inner size in the current measure; negative where the measure runs backwards.
+  double ScaleWidth() const { return scaleX2_ - scaleX1_; }
+  double ScaleHeight() const { return scaleY2_ - scaleY1_; }
+
+  // Wipes both pictures, whatever AutoRedraw says.
+  void ClearPicture();
+  // Wipes both pictures with AutoRedraw true; with false takes away what is on the screen only.
+  void Cls();
+  // A segment with both of its ends. Without a colour it takes ForeColor.
+  void Line(double x1, double y1, double x2, double y2, std::optional<Color> color = {});
+  // A point: a round dot of DrawWidth pixels.
+  void PSet(double x, double y, std::optional<Color> color = {});
+  // A circle about (x, y), its radius in units of the x axis.
+  void Circle(double x, double y, double radius);
+  // Writes a text at CurrentX, CurrentY in ForeColor, on a transparent ground.
+  void Print(const std::string& text);
+
+  // Brings the kept picture to the screen, as when a hidden surface is shown.
+  void Restore();
+  // Gives the surface another size, in twips; both pictures are wiped.
+  void Resize(double width, double height);
+
+  const Raster& Screen() const { return screen_; }
+  const Raster& Kept() const { return kept_; }
+  double Density() const { return density_; }
+  // The device pixels of the screen that have changed since the last call.
+  PixelRect TakeDirty();
+
+  // Position of a point in logical pixels from the upper left corner; failure 6 as for a drawing.
+  double LogicalX(double x) const;
+  double LogicalY(double y) const;
+
+  // Is told of each drawing; unset as a rule.
+  std::function<void(const DrawingOperation&)> Observer;
+
+ protected:
+  // Called when the screen changes for the first time since TakeDirty.
+  virtual void ScreenChanged() {}
+  // Paints a text into a raster; without a host nothing is painted.
+  virtual void PaintText(Raster& /*raster*/, const TextRun& /*run*/) {}
+
+ private:
+  double DeviceX(double x) const;
+  double DeviceY(double y) const;
+  int DevicePixels(double logical) const;
+  void Paint(const PixelRect& rect, Color pen);
+  void PaintDot(double x, double y, int size, Color pen);
+  void PaintLine(double x1, double y1, double x2, double y2, Color pen);
+  void Touch(const PixelRect& rect);
+  void Tell(DrawingOperation operation) const;
+
+  double width_;  // twips
+  double height_;
+  double density_;
+  double scaleX1_ = 0;
+  double scaleY1_ = 0;
+  double scaleX2_;
+  double scaleY2_;
+  Color backColor_ = White;
+  Raster kept_;
+  Raster screen_;
+  PixelRect dirty_;
+};
+
+}  // namespace clinorama::forms

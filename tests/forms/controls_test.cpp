@@ -1,0 +1,143 @@
+#include "forms/controls.h"
+
+#include <gtest/gtest.h>
+
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "tests/forms/sample_page.h"
+#include "tests/support/failure_of.h"
+#include "tests/support/scripted_host.h"
+
+namespace clinorama::tests {
+namespace {
+
+class Controls : public ApplicationTest {
+ protected:
+  Controls() { page.Show(); }
+
+  SamplePage& page = forms::The<SamplePage>();
+};
+
+TEST_F(Controls, TellTheHostOnlyOfNewValues) {
+  const int before = host.ChangesOf(page.Label1);
+  page.Label1.Caption = "Legenda";
+  page.Label1.Left = 0;
+  EXPECT_EQ(host.ChangesOf(page.Label1), before);
+  page.Label1.Caption = "Outra";
+  page.Label1.Font = forms::Font{.Bold = true};
+  EXPECT_EQ(host.ChangesOf(page.Label1), before + 2);
+  page.MousePointer = forms::MousePointer::Hourglass;
+  EXPECT_EQ(host.ChangesOf(page), 1);
+}
+
+TEST_F(Controls, MarkOneOptionOfAContainer) {
+  int clicks = 0;
+  page.OptionA.Click = [&] { ++clicks; };
+  page.OptionB.Click = [&] { EXPECT_FALSE(page.OptionA.Value) << "unmarked before the handler"; };
+  page.OptionC.UserClick();
+  page.OptionA.UserClick();
+  page.OptionA.UserClick();
+  EXPECT_EQ(clicks, 1) << "a click on a marked option is none";
+  page.OptionB.UserClick();
+  EXPECT_TRUE(page.OptionB.Value);
+  EXPECT_TRUE(page.OptionC.Value) << "it stands in a container of its own";
+  page.OptionA.Value = true;
+  EXPECT_FALSE(page.OptionB.Value);
+  page.OptionA.Value = false;
+  EXPECT_FALSE(page.OptionB.Value);
+  page.OptionA.UserClick();
+  EXPECT_EQ(clicks, 2) << "an option that the page unmarked can be clicked again";
+}
+
+TEST_F(Controls, TellOfEachOtherTextByUserOrPage) {
+  std::vector<std::string> seen;
+  page.Text1.Change = [&] { seen.push_back(page.Text1.Text); };
+  for (const char* text : {"2", "2", "1"}) page.Text1.UserType(text);
+  for (const char* text : {"3", "3"}) page.Text1.Text = text;
+  page.Text1.Enabled = false;
+  page.Text1.UserType("4");
+  page.Text1.Text = "5";
+  EXPECT_EQ(seen, (std::vector<std::string>{"2", "1", "3", "5"}));
+}
+
+TEST_F(Controls, AreOutOfReachWhenTheyOrAContainerAreLockedOrHidden) {
+  int acts = 0;
+  for (auto* event : {&page.Command1.Click, &page.OptionA.Click, &page.Text1.Change,
+                      &page.Label1.Click, &page.Label1.DblClick, &page.Sair.Click}) {
+    *event = [&acts] { ++acts; };
+  }
+  const std::pair<forms::Property<bool>*, int> locks[] = {
+      {&page.Frame1.Enabled, 1},  // the menu belongs to the page alone
+      {&page.Frame1.Visible, 1},   {&page.Enabled, 0},        {&page.Visible, 0},
+      {&page.Command1.Enabled, 5}, {&page.Label1.Visible, 4},
+  };
+  for (const auto& [property, left] : locks) {
+    acts = 0;
+    page.OptionA.Value = false;
+    page.HScroll1.Value = 5;
+    *property = false;
+    page.Command1.UserClick();
+    page.OptionA.UserClick();
+    page.Text1.UserType(page.Text1.Text() + "1");
+    page.Label1.UserClick();
+    page.Label1.UserDoubleClick();
+    page.Sair.UserClick();
+    page.HScroll1.UserScroll(99);
+    EXPECT_EQ(acts, left);
+    EXPECT_EQ(page.HScroll1.Value, left < 2 ? 5 : 10) << "held within its bounds";
+    *property = true;
+  }
+}
+
+TEST_F(Controls, FormTreesOfMenusAndControls) {
+  EXPECT_EQ(page.MenuBar(), (std::vector<forms::Menu*>{&page.Ficheiro, &page.Ajuda}));
+  EXPECT_EQ(page.Ficheiro.Items(), std::vector<forms::Menu*>{&page.Sair});
+  EXPECT_EQ(forms::FindControl(page, "OptionC"), &page.OptionC);
+  EXPECT_EQ(forms::FindControl(page, "Image1(4)"), &page.Image1(4));
+  EXPECT_EQ(forms::FindControl(page.Frame2, "OptionA"), nullptr);
+  EXPECT_EQ(page.Image1.Last(), 4);
+  EXPECT_EQ(page.Image1(3).Parent(), &page.Picture1);
+  for (const int outside : {1, 5}) EXPECT_THROW(page.Image1(outside), std::out_of_range);
+}
+
+TEST_F(Controls, KeepTheColorWhenTheUserCancels) {
+  forms::CommonDialog dialog{.Color = forms::Blue};
+  dialog.ShowColor();
+  EXPECT_EQ(dialog.Color, forms::Blue);
+  host.ChosenColor = forms::Red;
+  dialog.ShowColor();
+  EXPECT_EQ(dialog.Color, forms::Red);
+  EXPECT_EQ(host.ColorsOffered, (std::vector{forms::Blue, forms::Blue}));
+}
+
+TEST_F(Controls, MoveImagesInTheCoordinatesOfTheirSurface) {
+  host.DeviceDensity = 1.5;
+  auto& fine = forms::The<OtherPage>();
+  EXPECT_EQ(fine.Picture1.Screen().Width(), 300);
+  fine.Picture1.Scale(-10, 10, 10, -10);
+  forms::Image& image = fine.Image1(2);
+  image.Move(-5, 2.5);
+  EXPECT_EQ(FailureOf([&] { image.Move(0, 1e39); }), 6) << "a move that fails moves nothing";
+  EXPECT_DOUBLE_EQ(image.Left, 750);
+  EXPECT_DOUBLE_EQ(image.Top, 1125);
+}
+
+TEST_F(Controls, LoseWhatASurfaceDidNotKeepWhenItIsShownAgain) {
+  forms::PictureBox& picture = page.Picture1;
+  picture.ScaleInPixels();
+  picture.AutoRedraw = true;
+  picture.PSet(10, 10);
+  picture.AutoRedraw = false;
+  picture.PSet(20, 20);
+  picture.Visible = false;
+  picture.PSet(30, 30);
+  picture.Visible = true;
+  EXPECT_EQ(picture.Screen().At(10, 10), forms::Black);
+  EXPECT_EQ(picture.Screen().At(20, 20), forms::White);
+  EXPECT_EQ(picture.Screen().At(30, 30), forms::White);
+}
+
+}  // namespace
+}  // namespace clinorama::tests

@@ -1,0 +1,164 @@
+#include "forms/page.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "forms/failure.h"
+#include "tests/forms/sample_page.h"
+#include "tests/support/scripted_host.h"
+
+namespace clinorama::tests {
+namespace {
+
+using forms::The;
+using Log = std::vector<std::string>;
+
+class Pages : public ApplicationTest {
+ protected:
+  // Notes the end of a handler, however it ends.
+  struct Leaving {
+    Log& Notes;
+    std::string Note;
+    ~Leaving() { Notes.push_back(Note); }
+  };
+
+  // A handler that waits for so many steps of 5 milliseconds.
+  std::function<void()> Motion(const std::string& name, int steps) {
+    return [this, &page = The<SamplePage>(), name, steps] {
+      const Leaving leaving{log, name + " left"};
+      for (int i = 0; i < steps; ++i) page.Wait(5);
+      log.push_back(name + " finished");
+    };
+  }
+
+  Pages() {
+    The<SamplePage>().Command1.Click = Motion("first", 10);
+    The<SamplePage>().Command2.Click = Motion("second", 10);
+  }
+
+  // Plays the first motion of the page, with its window open.
+  void Play() {
+    The<SamplePage>().Show();
+    The<SamplePage>().Command1.UserClick();
+  }
+
+  Log log;
+};
+
+TEST_F(Pages, AreMadeOnFirstUseAndForgetAllWhenUnloaded) {
+  auto& page = The<SamplePage>();
+  EXPECT_EQ(&The<SamplePage>(), &page);
+  EXPECT_FALSE(page.Visible);
+  page.Show();
+  page.Text1.Text = "7";
+  page.Visible = false;
+  EXPECT_EQ(The<SamplePage>().Text1.Text, "7") << "a hidden page stays as it is";
+  page.UserClose();
+  EXPECT_EQ(The<SamplePage>().Text1.Text, "1");
+  EXPECT_EQ(The<SamplePage>().Activations, 0);
+  EXPECT_EQ(host.PageCalls, (Log{"Shown SamplePage", "Hidden SamplePage", "Unloaded SamplePage"}));
+}
+
+TEST_F(Pages, LiveUntilNoHandlerOfTheirsIsOnTheStack) {
+  auto& page = The<SamplePage>();
+  page.Show();
+  page.Command1.Click = [&] {
+    page.Unload();
+    EXPECT_NE(&The<SamplePage>(), &page);
+    The<OtherPage>().Show();  // runs a handler of another page
+    EXPECT_EQ(SamplePage::Alive, 3);
+    page.Command2.UserClick();  // reaches nobody any more
+    log.push_back(page.Label1.Caption);
+  };
+  page.Command1.UserClick();
+  EXPECT_EQ(log, Log{"Legenda"});
+  EXPECT_EQ(SamplePage::Alive, 2);
+}
+
+TEST_F(Pages, UnwindTheirHandlersWhenClosedWhileThoseWait) {
+  auto& page = The<SamplePage>();
+  page.Sair.Click = [&] {
+    const Leaving leaving{log, "third left"};
+    page.Wait(5);
+    page.UserClose();
+    page.Wait(5);
+    log.push_back("third went on");
+  };
+  host.AtStep(3, [&] { page.Command2.UserClick(); });
+  host.AtStep(5, [&] { page.Sair.UserClick(); });
+  Play();
+  EXPECT_EQ(log, (Log{"third left", "second left", "first left"}));
+  EXPECT_EQ(host.Steps, 7);
+  EXPECT_EQ(host.SleptMilliseconds, 35);
+  EXPECT_EQ(SamplePage::Alive, 0);
+}
+
+TEST_F(Pages, GoOnWhenAnotherPageIsClosedButNotWhenTheirOwnIsOpenedAnew) {
+  The<OtherPage>().Show();
+  host.AtStep(2, [] { The<OtherPage>().UserClose(); });
+  host.AtStep(12, [] {
+    The<SamplePage>().UserClose();
+    The<SamplePage>().Show();
+  });
+  Play();
+  EXPECT_EQ(log, (Log{"first finished", "first left"}));
+  Play();
+  EXPECT_EQ(log, (Log{"first finished", "first left", "first left"}));
+  EXPECT_EQ(host.Steps, 12);
+  EXPECT_TRUE(The<SamplePage>().Visible);
+}
+
+TEST_F(Pages, EndTheProgramFromANestedHandler) {
+  auto& page = The<SamplePage>();
+  page.Sair.Click = [] { forms::End(); };
+  host.AtStep(2, [&] { page.Command2.UserClick(); });
+  host.AtStep(4, [&] { page.Sair.UserClick(); });
+  EXPECT_THROW(Play(), ProgramEnded);
+  EXPECT_EQ(log, (Log{"second left", "first left"}));
+}
+
+TEST_F(Pages, ShowAFailureThatAHandlerLetsOutAndEndThatHandlerOnly) {
+  The<SamplePage>().Command2.Click = [] { throw forms::TypeMismatch(); };
+  host.AtStep(2, [] { The<SamplePage>().Command2.UserClick(); });
+  Play();
+  EXPECT_EQ(host.MessageBoxes,
+            (std::vector<MessageBox>{{forms::TypeMismatch().Description(), 0, "Clinorama"}}));
+  EXPECT_EQ(log, (Log{"first finished", "first left"}));
+}
+
+TEST_F(Pages, AreActivatedWhenTheyBecomeTheActivePage) {
+  auto& page = The<SamplePage>();
+  auto& other = The<OtherPage>();
+  struct Step {
+    const char* What;
+    std::function<void()> Act;
+    int Activations;  // of the page, by this step
+  };
+  const Step steps[] = {
+      {"shown", [&] { page.Show(); }, 1},
+      {"shown when active", [&] { page.Show(); }, 0},
+      {"its window clicked when active", [&] { application.BecameActive(page); }, 0},
+      {"a message box over it", [] { forms::MsgBox("Erro"); }, 0},
+      {"another page shown", [&] { other.Show(); }, 0},
+      {"shown over another page", [&] { page.Show(); }, 1},
+      {"another page clicked", [&] { application.BecameActive(other); }, 0},
+      {"clicked in front of another page", [&] { application.BecameActive(page); }, 1},
+      {"another page hidden behind it", [&] { other.Visible = false; }, 0},
+      {"still active then", [&] { page.Show(); }, 0},
+      {"hidden", [&] { page.Visible = false; }, 0},
+      {"made visible again", [&] { page.Visible = true; }, 1},
+      {"another page closed over it", [&] { other.Show(), other.UserClose(); }, 0},
+      {"in front again", [&] { application.BecameActive(page); }, 1},
+  };
+  for (const Step& step : steps) {
+    const int before = page.Activations;
+    step.Act();
+    EXPECT_EQ(page.Activations - before, step.Activations) << step.What;
+  }
+}
+
+}  // namespace
+}  // namespace clinorama::tests
