@@ -1,0 +1,112 @@
+#include "desktop/look.h"
+
+#include <QApplication>
+#include <QIcon>
+#include <QLocale>
+#include <QPainter>
+#include <QPalette>
+#include <QPixmapCache>
+#include <QStyleFactory>
+#include <QSvgRenderer>
+#include <algorithm>
+#include <cmath>
+
+#include "desktop/portuguese.h"
+#include "forms/raster.h"
+
+namespace clinorama::desktop {
+namespace {
+
+constexpr double PixelsToPoint = 96.0 / 72.0;
+// Below this size in device pixels the digits of an axis are painted without grey edges and never
+// bold, as their strokes are a pixel wide at the least: that keeps them sharp.
+constexpr int SmallestSmoothed = 10;
+
+const QString PlainFamily = QStringLiteral("DejaVu Sans");
+const QString ComicFamily = QStringLiteral("Comic Neue");
+
+int PixelSize(const forms::Font& font, double density) {
+  return std::max(1, static_cast<int>(std::lround(font.Size * PixelsToPoint * density)));
+}
+
+QPalette LightPalette() {
+  const QColor page(0xE9, 0xEE, 0xF6);
+  QPalette palette(QColor(0xE3, 0xE9, 0xF2), page);
+  palette.setColor(QPalette::Base, Qt::white);
+  palette.setColor(QPalette::Text, Qt::black);
+  palette.setColor(QPalette::WindowText, Qt::black);
+  palette.setColor(QPalette::ButtonText, Qt::black);
+  palette.setColor(QPalette::Dark, QColor(0x9A, 0xA6, 0xBA));
+  palette.setColor(QPalette::Highlight, QColor(0x1F, 0x4F, 0xD8));
+  palette.setColor(QPalette::HighlightedText, Qt::white);
+  palette.setColor(QPalette::ToolTipBase, QColor(0xFF, 0xFF, 0xE1));
+  palette.setColor(QPalette::ToolTipText, Qt::black);
+  const QColor faint(0x8A, 0x92, 0xA0);
+  for (const auto role : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText}) {
+    palette.setColor(QPalette::Disabled, role, faint);
+  }
+  return palette;
+}
+
+}  // namespace
+
+void SetLook(QApplication& application) {
+  QLocale::setDefault(QLocale(QLocale::Portuguese, QLocale::Portugal));
+  QGuiApplication::setDesktopFileName(QStringLiteral("clinorama"));
+  QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+  QApplication::setPalette(LightPalette());
+  QApplication::setFont(FontFor({}));
+  QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/clinorama.svg")));
+  static Portuguese translator;
+  application.installTranslator(&translator);
+}
+
+QFont FontFor(const forms::Font& font) {
+  QFont chosen(font.Name == "Comic Sans MS" ? ComicFamily : PlainFamily);
+  chosen.setPixelSize(PixelSize(font, 1));
+  chosen.setBold(font.Bold);
+  return chosen;
+}
+
+QFont SurfaceFontFor(const forms::Font& font, double density) {
+  QFont chosen = FontFor(font);
+  chosen.setPixelSize(PixelSize(font, density));
+  // Axes are laid out for a symbol font that is narrower than the plain family: its labels stand
+  // less than two pixels apart otherwise.
+  if (TextFor(font.Name).compare(QLatin1String("symbol"), Qt::CaseInsensitive) == 0) {
+    chosen.setStretch(QFont::SemiCondensed);
+  }
+  if (chosen.pixelSize() < SmallestSmoothed) {
+    chosen.setBold(false);
+    chosen.setHintingPreference(QFont::PreferFullHinting);
+    chosen.setStyleStrategy(QFont::NoAntialias);
+  }
+  return chosen;
+}
+
+QColor ColorFor(forms::Color color) { return QColor::fromRgb(color.Rgb); }
+
+forms::Color ColorFrom(const QColor& color) { return {color.rgb() & forms::ColorBits}; }
+
+QString TextFor(const std::string& text) { return QString::fromStdString(text); }
+
+QPixmap PictureFor(const std::string& name, QSize size, double ratio) {
+  const QSize pixels = (QSizeF(size) * ratio).toSize();
+  const QString file = QStringLiteral(":/%1.svg").arg(TextFor(name));
+  const QString key = QStringLiteral("%1@%2x%3").arg(file).arg(pixels.width()).arg(pixels.height());
+  QPixmap pixmap;
+  if (name.empty() || QPixmapCache::find(key, &pixmap)) return pixmap;
+  QSvgRenderer renderer(file);
+  if (!renderer.isValid()) return pixmap;
+  pixmap = QPixmap(pixels);
+  pixmap.fill(Qt::transparent);
+  QPainter painter(&pixmap);
+  renderer.setAspectRatioMode(Qt::KeepAspectRatio);
+  renderer.render(&painter);
+  painter.end();
+  pixmap.setDevicePixelRatio(ratio);
+  QPixmapCache::insert(key, pixmap);
+  return pixmap;
+}
+
+}  // namespace clinorama::desktop

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QWidget>
+#include <map>
+
+#include "desktop/views.h"
+
+class QMenu;
+
+namespace clinorama::forms {
+class Menu;
+class Page;
+class PictureBox;
+}  // namespace clinorama::forms
+
+namespace clinorama::desktop {
+
+// The window of a page: its menu bar, its client area of fixed size, and a view of each control.
+class PageWindow : public QWidget {
+ public:
+  explicit PageWindow(forms::Page& page);
+
+  // Shows what a control (or the page itself) now says.
+  void Synchronise(forms::Control& control);
+  // Lets what was drawn appear when the event loop next runs, or at once.
+  void ShowDrawing(forms::PictureBox& picture);
+  void ShowDrawingNow(forms::PictureBox& picture);
+  void Focus(forms::Control& control);
+  // Hides the window for good and cuts it off from its page.
+  void Leave();
+
+ protected:
+  bool event(QEvent* event) override;
+  void closeEvent(QCloseEvent* event) override;
+
+ private:
+  void AddMenuBar();
+  void AddControls(forms::Container& container, QWidget& parent);
+  void SynchronisePage();
+
+  forms::Page* page_;
+  QWidget* client_;
+  std::map<const forms::Control*, View> views_;
+};
+
+}  // namespace clinorama::desktop

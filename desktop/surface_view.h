@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QWidget>
+
+namespace clinorama::forms {
+class PictureBox;
+}
+
+namespace clinorama::desktop {
+
+// Shows the screen picture of a surface.
+class SurfaceView : public QWidget {
+ public:
+  SurfaceView(forms::PictureBox& picture, QWidget* parent);
+
+  // Lets the changed part be painted when the event loop next runs, together with what is drawn
+  // until then; or at once.
+  void ShowSoon();
+  void ShowNow();
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  QRect TakeChanged();
+
+  forms::PictureBox& picture_;
+};
+
+}  // namespace clinorama::desktop

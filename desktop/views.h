@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QRect>
+#include <functional>
+
+#include "forms/control.h"
+
+class QWidget;
+
+namespace clinorama::desktop {
+
+// A widget that shows a control, and what it takes to bring it up to date with the control's own
+// properties (those that all controls have are brought up to date by SynchroniseView).
+struct View {
+  QWidget* Widget = nullptr;
+  std::function<void()> Synchronise;
+};
+
+// The widget for a control's kind, passing on what the user does to it.
+View MakeView(forms::Control& control, QWidget& parent);
+
+// Shows what the control now says.
+void SynchroniseView(const forms::Control& control, const View& view);
+
+// Place and size of a control in logical pixels.
+QRect PlaceOf(const forms::Control& control);
+
+}  // namespace clinorama::desktop

@@ -1,0 +1,15 @@
+#include <gtest/gtest.h>
+
+#include <QApplication>
+
+#include "desktop/look.h"
+
+// The widgets need an application before the first of them, and no display.
+int main(int argc, char* argv[]) {
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  testing::InitGoogleTest(&argc, argv);
+  GTEST_FLAG_SET(death_test_style, "threadsafe");  // the toolkit may run threads
+  QApplication application(argc, argv);
+  clinorama::desktop::SetLook(application);
+  return RUN_ALL_TESTS();
+}

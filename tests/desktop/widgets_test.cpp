@@ -1,0 +1,219 @@
+// What only real widgets can get wrong: names, places, keys and clicks on their way to the
+// controls.
+
+#include <QAction>
+#include <QColorDialog>
+#include <QDialogButtonBox>
+#include <QImage>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTimer>
+#include <set>
+
+#include "desktop_fixture.h"
+#include "forms/controls.h"
+#include "shell/Form2.h"
+#include "workpage/Form12.h"
+
+namespace clinorama::tests {
+namespace {
+
+using forms::The;
+
+int Pixels(const QImage& image, QColor color) {
+  int count = 0;
+  for (int y = 0; y < image.height(); ++y) {
+    for (int x = 0; x < image.width(); ++x) count += image.pixelColor(x, y) == color;
+  }
+  return count;
+}
+
+// Closes the next modal box, and keeps what it said.
+struct BoxCloser {
+  BoxCloser() {
+    QTimer::singleShot(0, [this] {
+      auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+      if (box == nullptr) return;
+      Text = box->text();
+      Title = box->windowTitle();
+      Icon = box->icon();
+      box->accept();
+    });
+  }
+  QString Text;
+  QString Title;
+  QMessageBox::Icon Icon = QMessageBox::NoIcon;
+};
+
+void ExpectWidgets(const forms::Container& container, QWidget& window) {
+  for (forms::Control* control : container.Children()) {
+    auto* widget = window.findChild<QWidget*>(QString::fromStdString(control->Name()));
+    ASSERT_NE(widget, nullptr) << control->Name();
+    EXPECT_FALSE(widget->accessibleName().isEmpty()) << control->Name();
+    EXPECT_EQ(widget->isHidden(), !control->Visible()) << control->Name();
+    if (const auto* inner = dynamic_cast<const forms::Container*>(control)) {
+      ExpectWidgets(*inner, window);
+    }
+  }
+}
+
+TEST_F(DesktopTest, EveryControlHasANamedWidget) {
+  The<Form2>().Show();
+  The<Form12>().Show();
+  ExpectWidgets(The<Form2>(), *Window("Form2"));
+  ExpectWidgets(The<Form12>(), *Window("Form12"));
+}
+
+TEST_F(DesktopTest, ClientAreaMeasuresWhatThePageSays) {
+  The<Form12>().Show();
+  QWidget* window = Window("Form12");
+  QWidget* client = Find("Form12", "Frame1")->parentWidget();
+  EXPECT_EQ(client->size(), QSize(1016, 710));
+  EXPECT_EQ(window->height() - client->height(), client->y());
+  EXPECT_EQ(window->minimumSize(), window->maximumSize());
+  EXPECT_EQ(Find("Form12", "Picture1")->geometry(), QRect(4, 76, 633, 633));
+}
+
+TEST_F(DesktopTest, MenuItemsReachThePages) {
+  The<Form2>().Show();
+  Find<QAction>("Form2", "Clinorama")->trigger();
+  EXPECT_NE(Window("Form12"), nullptr);
+  EXPECT_EQ(Find<QMenu>("Form12", "Ficheiro")->actions().size(), 2);
+  Find<QAction>("Form12", "FecharPágina")->trigger();
+  EXPECT_EQ(Window("Form12"), nullptr);
+}
+
+TEST_F(DesktopTest, TypedTextReachesThePage) {
+  The<Form12>().Show();
+  auto* box = Find<QLineEdit>("Form12", "Função1");
+  box->selectAll();
+  for (const QChar letter : QString::fromUtf8("sén(x) ç")) {
+    QKeyEvent press(QEvent::KeyPress, 0, Qt::NoModifier, letter);
+    QApplication::sendEvent(box, &press);
+  }
+  EXPECT_EQ(The<Form12>().Função1.Text(), "sén(x) ç");
+  The<Form12>().Função1.Text = "3sen(x)-cos(2x)";
+  EXPECT_EQ(box->text(), "3sen(x)-cos(2x)");
+}
+
+TEST_F(DesktopTest, APlotIsSeenAndANewGraduationWipesIt) {
+  The<Form12>().Show();
+  QTest::qWait(50);
+  Click("Form12", "DesenharGráfico");
+  QTest::qWait(50);
+  EXPECT_GT(Pixels(Window("Form12")->grab().toImage(), Qt::blue), 800);
+  QWidget* canvas = Find("Form12", "Picture1");
+  EXPECT_GT(Pixels(canvas->grab().toImage(), Qt::blue), 800);
+  QTest::keyClick(Find("Form12", "EixosRad"), Qt::Key_Return);
+  QTest::qWait(50);
+  EXPECT_EQ(Pixels(canvas->grab().toImage(), Qt::blue), 0);
+  EXPECT_EQ(The<Form12>().EixosRad.Caption(), "Unidades");
+}
+
+// The picture that a window server would hold, and not a new painting of the widget, is what tells
+// whether a change was announced: so the paintings are counted.
+TEST_F(DesktopTest, EachChangeOfTheDrawingIsAnnounced) {
+  struct PaintCounter : QObject {
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+      Paints += event->type() == QEvent::Paint;
+      return false;
+    }
+    int Paints = 0;
+  } counter;
+  The<Form12>().Show();
+  QTest::qWait(50);
+  Find("Form12", "Picture1")->installEventFilter(&counter);
+  for (int change = 1; change <= 3; ++change) {
+    counter.Paints = 0;
+    The<Form12>().Picture1.Line(-change, 0, change, 5, forms::Red);
+    QTest::qWait(50);
+    EXPECT_GE(counter.Paints, 1) << change;
+  }
+}
+
+TEST_F(DesktopTest, AMarkedOptionStaysMarkedAndGivesNoClick) {
+  The<Form12>().Show();
+  auto* option = Find<QRadioButton>("Form12", "DerivadaEsquerda");
+  int clicks = 0;
+  The<Form12>().DerivadaEsquerda.Click = [&clicks] { ++clicks; };
+  Click("Form12", "DerivadaEsquerda");
+  Click("Form12", "DerivadaEsquerda");
+  EXPECT_EQ(clicks, 1);
+  EXPECT_TRUE(option->isChecked());
+  The<Form12>().DerivadaEsquerda.Value = false;
+  EXPECT_FALSE(option->isChecked());
+}
+
+TEST_F(DesktopTest, AMessageBoxSpeaksForThePageAndIsNoActivation) {
+  The<Form12>().Show();
+  The<Form12>().Função1.Text = "sen(";
+  const BoxCloser box;
+  Click("Form12", "DesenharGráfico");
+  EXPECT_EQ(box.Text, QString::fromUtf8("Erro na expressão analítica:\n\nNúmero de parênteses "
+                                        "incorrecto."));
+  EXPECT_EQ(box.Title, "Limites");
+  EXPECT_EQ(box.Icon, QMessageBox::Information);
+  The<Form12>().Picture1.Line(0, 0, 5, 5, forms::Red);
+  QEvent activation(QEvent::WindowActivate);
+  QApplication::sendEvent(Window("Form12"), &activation);
+  EXPECT_EQ(The<Form12>().Picture1.Screen().At(400, 232), forms::Red);
+}
+
+TEST_F(DesktopTest, ClosingByTheFrame) {
+  The<Form12>().Show();
+  The<Form12>().Função1.Text = "x";
+  Window("Form12")->close();
+  EXPECT_EQ(Window("Form12"), nullptr);
+  EXPECT_EQ(The<Form12>().Função1.Text(), "x*(1-cos(x))/2");
+  The<Form2>().Show();
+  EXPECT_EXIT(Window("Form2")->close(), testing::ExitedWithCode(0), "");
+}
+
+TEST_F(DesktopTest, AWindowClosedUnderItsMotionIsLeftAlone) {
+  The<Form12>().Show();
+  Click("Form12", "DesenharGráfico");
+  QTimer::singleShot(20, [] { Click("Form12", "Parar"); });
+  QTimer::singleShot(60, [] { Window("Form12")->close(); });
+  Click("Form12", "DerivadaEsquerda");
+  EXPECT_EQ(Window("Form12"), nullptr);
+  QTest::qWait(20);
+}
+
+TEST_F(DesktopTest, TheColourChooserSpeaksPortuguese) {
+  QSet<QString> texts;
+  QString title;
+  QTimer::singleShot(0, [&] {
+    auto* dialog = qobject_cast<QColorDialog*>(QApplication::activeModalWidget());
+    ASSERT_NE(dialog, nullptr);
+    title = dialog->windowTitle();
+    for (const auto* label : dialog->findChildren<QLabel*>()) texts.insert(label->text().trimmed());
+    for (const auto* button : dialog->findChildren<QPushButton*>()) texts.insert(button->text());
+    dialog->reject();
+  });
+  EXPECT_EQ(host.ShowColor(forms::Blue), std::nullopt);
+  EXPECT_EQ(title, "Escolher a cor");
+  texts.remove("");
+  const QSet<QString> expected = {"OK",
+                                  "Cancelar",
+                                  "Cores &básicas",
+                                  "Cores &personalizadas",
+                                  "&Tom:",
+                                  "&Sat.:",
+                                  "Va&lor:",
+                                  "Ve&rmelho:",
+                                  "Ver&de:",
+                                  "Az&ul:",
+                                  "Canal al&fa:",
+                                  "&HTML:",
+                                  "&Juntar às cores personalizadas",
+                                  "&Escolher uma cor do ecrã"};
+  for (const QString& text : texts - expected) ADD_FAILURE() << text.toStdString();
+}
+
+}  // namespace
+}  // namespace clinorama::tests
