@@ -1,0 +1,159 @@
+// The axes of the drawing windows, with their graduation in units or in radians. All lengths are in
+// user units: the windows are small, so axes and numbers keep within -9 and 9 of the -10 to 10
+// that a canvas shows.
+
+#include <string>
+
+#include "forms/counted_loop.h"
+#include "forms/number_text.h"
+#include "relations/Form13.h"
+
+namespace clinorama {
+
+using forms::PictureBox;
+using forms::PrintedNumber;
+
+namespace {
+
+constexpr double Pi = 3.14159;  // the digits that the graduation works with
+constexpr int LastNumber = 8;
+constexpr double TickHalf = 0.1;
+
+struct RadianLabel {
+  const char* Text;  // in the font "symbol", whose p shows as π
+  double Left;
+};
+
+constexpr RadianLabel RadianLabels[] = {
+    {"-5p/2", -5 * Pi / 2 - 0.9},
+    {"-2p", -2 * Pi - 0.5},
+    {"-3p/2", -3 * Pi / 2 - 0.6},
+    {"-p", -Pi - 0.3},
+    {"-p/2", -Pi / 2 - 0.5},
+    {"p/2", Pi / 2 - 0.5},
+    {"p", Pi - 0.3},
+    {"3p/2", 3 * Pi / 2 - 0.6},
+    {"2p", 2 * Pi - 0.3},
+    {"5p/2", 5 * Pi / 2 - 0.6},
+};
+
+void PrintAt(PictureBox& canvas, double x, double y, const std::string& text) {
+  canvas.CurrentX = x;
+  canvas.CurrentY = y;
+  canvas.Print(text);
+}
+
+template <class Mark>
+void ForEachNumber(Mark mark) {
+  for (int j = -LastNumber; j <= LastNumber; ++j) mark(j);
+}
+
+void SetNumberFont(PictureBox& canvas) {
+  canvas.Font.Name = "MS Serif";
+  canvas.Font.Size = 6;
+}
+
+// Wipes the canvas and draws the axes with their arrow heads; the tip of the horizontal one stands
+// a little beyond the end of its axis.
+void DrawAxes(PictureBox& canvas) {
+  canvas.DrawStyle = 0;
+  canvas.DrawMode = 13;
+  canvas.Cls();
+  canvas.Line(-9, 0, 9, 0);
+  canvas.Line(0, 9, 0, -9);
+  canvas.Line(-0.15, 8.7, 0, 9);
+  canvas.Line(0.15, 8.7, 0, 9);
+  canvas.Line(8.7, -0.15, 9.1, 0);
+  canvas.Line(8.7, 0.15, 9.1, 0);
+}
+
+void MarkAbscissa(PictureBox& canvas, double x) { canvas.Line(x, TickHalf, x, -TickHalf); }
+
+void MarkOrdinate(PictureBox& canvas, double y) { canvas.Line(-TickHalf, y, TickHalf, y); }
+
+void NumberOrdinate(PictureBox& canvas, int j) {
+  if (j != 0) PrintAt(canvas, -0.7, j + 0.3, PrintedNumber(j));
+}
+
+// The letters take the size of the numbers before them.
+void NameAxes(PictureBox& canvas) {
+  canvas.Font.Name = "MS Sans Serif";
+  canvas.Font.Bold = true;
+  PrintAt(canvas, 9.2, -0.3, "x");
+  PrintAt(canvas, -0.7, 9.7, "y");
+}
+
+void DrawUnits(PictureBox& canvas) {
+  canvas.Font.Bold = true;
+  DrawAxes(canvas);
+  SetNumberFont(canvas);
+  ForEachNumber([&](int j) {
+    MarkAbscissa(canvas, j);
+    if (j != 0) PrintAt(canvas, j - 0.3, -0.4, PrintedNumber(j));
+  });
+  ForEachNumber([&](int j) {
+    MarkOrdinate(canvas, j);
+    NumberOrdinate(canvas, j);
+  });
+  NameAxes(canvas);
+}
+
+// The numbers of the y axis keep whatever boldness the graduation before left.
+void DrawRadians(PictureBox& canvas) {
+  DrawAxes(canvas);
+  // The counter passes 3π by rounding, so the last mark is that of 5π/2.
+  forms::CountedLoop(-5 * Pi / 2, 3 * Pi, Pi / 2, [&](double t) { MarkAbscissa(canvas, t); });
+  ForEachNumber([&](int j) { MarkOrdinate(canvas, j); });
+  SetNumberFont(canvas);
+  ForEachNumber([&](int j) {
+    for (int time = 0; time < 2; ++time) {
+      canvas.PSet(-0.05, j);
+      canvas.PSet(0.1, j);
+    }
+    NumberOrdinate(canvas, j);
+  });
+  NameAxes(canvas);
+  canvas.Font = {.Name = "symbol", .Size = 9, .Bold = false};
+  for (const RadianLabel& label : RadianLabels) PrintAt(canvas, label.Left, -0.6, label.Text);
+}
+
+}  // namespace
+
+void Form13::GraduarTodas() {
+  for (int index = Picture1.First(); index <= Picture1.Last(); ++index) DrawUnits(Picture1(index));
+}
+
+void Form13::GraduarUnidades(const Window& window) {
+  DrawUnits(Persistent(window));
+  DrawUnits(Live(window));
+  if (window.UnitsSetButton) MostrarGraduação(window, false);
+}
+
+void Form13::GraduarRadianos(const Window& window) {
+  DrawRadians(Persistent(window));
+  DrawRadians(Live(window));
+  MostrarGraduação(window, true);
+}
+
+void Form13::Graduar(const Window& window) {
+  if (window.Radianos) {
+    GraduarRadianos(window);
+  } else {
+    GraduarUnidades(window);
+  }
+}
+
+// The button names the graduation that a click will bring, not the present one.
+void Form13::MostrarGraduação(const Window& window, bool radians) {
+  window.EixosRad.ToolTipText = radians ? "Graduar o eixo das abcissas em unidades"
+                                        : "Graduar o eixo das abcissas em radianos";
+  window.EixosRad.Caption = radians ? "Unidades" : "Radianos";
+  window.Radianos = radians;
+}
+
+void Form13::AlternarGraduação(const Window& window) {
+  MostrarGraduação(window, !window.Radianos);
+  Graduar(window);
+}
+
+}  // namespace clinorama

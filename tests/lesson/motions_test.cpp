@@ -1,0 +1,140 @@
+// The motions: their last positions, the limits of the semi-secants, and what a passing figure
+// leaves behind.
+
+#include <cmath>
+
+#include "tests/lesson/lesson_test.h"
+
+namespace clinorama::tests {
+namespace {
+
+TEST_F(LessonTest, StopsBesideThePointAndNeverAtIt) {
+  struct Motion {
+    int Page;
+    int Steps;
+    double LastX;
+  };
+  for (const auto& [number, steps, lastX] : {Motion{7, 301, 4.000000000000064},
+                                             {8, 301, 4.000000000000064},
+                                             {12, 251, 3.999999999999958},
+                                             {13, 251, 3.999999999999958},
+                                             {17, 2 * 801, 0},
+                                             {19, 2 * 4001, 0}}) {
+    GoTo(number - 1);
+    page.Seguinte.UserClick();
+    EXPECT_EQ(host.Steps, steps) << number;
+    EXPECT_EQ(host.SleptMilliseconds, 5 * steps);
+    if (lastX == 0) continue;
+    auto verticals = Drawn(Kind::Line);
+    std::erase_if(verticals, [](const auto& line) { return line.Y2 != 0; });
+    EXPECT_DOUBLE_EQ(verticals.back().X1, lastX) << number;
+  }
+}
+
+TEST_F(LessonTest, TurnsTheSemiSecantsToTheirLimits) {
+  struct Limit {
+    double X;
+    double Y;
+  };
+  struct Motion {
+    int Page;
+    Limit Right;
+    Limit Left;
+  };
+  const double tangentX = 7 * 3 / std::sqrt(13.0);
+  for (const auto& [number, right, left] :
+       {Motion{17, {tangentX, tangentX * -2 / 3}, {-tangentX, tangentX * 2 / 3}},
+        Motion{19, {0, -5}, {0, -5}}, Motion{21, {11, 3}, {0, -8}}, Motion{23, {0, 12}, {0, -7}},
+        Motion{25, {0, 9}, {-8, -2}}, Motion{27, {0, 7}, {0, 4}}, Motion{29, {0, 7}, {0, 4}}}) {
+    GoTo(number - 1);
+    page.Seguinte.UserClick();
+    auto limits = Drawn(Kind::Line);
+    std::erase_if(limits, [](const auto& line) { return line.Pen != forms::Red; });
+    ASSERT_EQ(limits.size(), 2U) << number;
+    EXPECT_NEAR(limits[0].X2, right.X, 1e-6) << number;
+    EXPECT_NEAR(limits[0].Y2, right.Y, 1e-6) << number;
+    EXPECT_NEAR(limits[1].X2, left.X, 1e-6) << number;
+    EXPECT_NEAR(limits[1].Y2, left.Y, 1e-6) << number;
+  }
+}
+
+// The two pages start alike and do not do the same: where page 8 inverts the old semi-secant,
+// page 13 erases it. Its pixel at a distance from A is seen before the motion and after its first
+// line.
+TEST_F(LessonTest, InvertsTheOldSemiSecantOnTheRightAndErasesItOnTheLeft) {
+  struct Case {
+    int Page;
+    double X;
+    double Distance;
+    int Mode;
+    forms::Color After;
+  };
+  for (const auto& [number, x, distance, mode, after] :
+       {Case{8, 7, 4.6, 6, Yellow}, {13, 1.5, 2, 13, forms::White}}) {
+    GoTo(number - 1);
+    const double y = std::sqrt(16 * x - x * x) - 1;
+    const double fa = std::sqrt(48.0) - 1;
+    const double length = std::hypot(x - 4, y - fa);
+    const double seenX = 4 + (x - 4) / length * distance;
+    const double seenY = fa + (y - fa) / length * distance;
+    EXPECT_EQ(PixelAt(seenX, seenY), forms::Blue) << number;
+    bool first = true;
+    page.Picture1.Observer = [&, expected = after, drawMode = mode](const auto& operation) {
+      if (operation.What != Kind::Line || !first) return;
+      first = false;
+      EXPECT_EQ(operation.DrawMode, drawMode);
+      EXPECT_EQ(operation.Pen, forms::White);
+      EXPECT_EQ(PixelAt(seenX, seenY), expected);
+    };
+    page.Seguinte.UserClick();
+    EXPECT_FALSE(first);
+    Record();
+  }
+}
+
+// A figure that has passed leaves each pixel as it was or with the bits of its pen added; only the
+// semi-tangents stay.
+TEST_F(LessonTest, LeavesMarksOfThePenWhereAFigureCrossedOtherDrawing) {
+  GoTo(20);
+  const forms::Raster before = page.Picture1.Kept();
+  AtStep(1000, [&] {
+    EXPECT_EQ(drawn.back().DrawMode, 2);
+    EXPECT_EQ(
+        PixelAt((drawn.back().X1 + drawn.back().X2) / 2, (drawn.back().Y1 + drawn.back().Y2) / 2),
+        forms::Black);
+  });
+  page.Seguinte.UserClick();
+  const forms::Raster& after = page.Picture1.Kept();
+  int marks = 0;
+  int wrong = 0;
+  for (int y = 0; y < before.Height(); ++y) {
+    for (int x = 0; x < before.Width(); ++x) {
+      const forms::Color old = before.At(x, y);
+      const forms::Color now = after.At(x, y);
+      if (now == old || now == forms::Red) continue;
+      const forms::Color marked{old.Rgb | forms::Blue.Rgb};
+      ++(now == marked ? marks : wrong);
+    }
+  }
+  EXPECT_GT(marks, 0);
+  EXPECT_EQ(wrong, 0);
+}
+
+TEST_F(LessonTest, DrawsTheSemiTangentWhereTheMotionHasLeftTheSemiSecant) {
+  for (const int number : {9, 14}) {
+    GoTo(number - 1);
+    page.Seguinte.UserClick();
+    ASSERT_EQ(drawn.size(), 1U);
+    EXPECT_EQ(drawn[0].Pen, forms::Red);
+    EXPECT_EQ(drawn[0].DrawMode, 13);
+    EXPECT_EQ(drawn[0].DrawWidth, 2);
+    EXPECT_EQ(page.Picture1.DrawWidth, 1);
+    // The slope of the graph at a, on either side.
+    EXPECT_NEAR((drawn[0].Y2 - drawn[0].Y1) / (drawn[0].X2 - drawn[0].X1), 1 / std::sqrt(3.0),
+                0.02);
+    EXPECT_NEAR(std::hypot(drawn[0].X2 - drawn[0].X1, drawn[0].Y2 - drawn[0].Y1), 5, 1e-9);
+  }
+}
+
+}  // namespace
+}  // namespace clinorama::tests
