@@ -1,0 +1,93 @@
+#include "shell/viewer.h"
+
+#include <memory>
+#include <string>
+
+#include "shell/window_frame.h"
+
+namespace clinorama {
+namespace {
+
+// Of the client area on the screen: high enough for a window of 11310 twips with its title bar to
+// fit a screen of 768 pixels. At the left, so that the work page shows its function box and its
+// commands beside the manual.
+constexpr double ViewerLeft = 120;
+constexpr double ViewerTop = 405;
+
+constexpr double PageLeft = 60;
+constexpr double PageTop = 120;
+
+std::unique_ptr<forms::Image> MakePage(forms::Page& viewer, const ViewerKind& kind, int page,
+                                       const std::string& name) {
+  const std::string number = std::to_string(page);
+  const std::string twoDigits = page < 10 ? "0" + number : number;
+  return std::make_unique<forms::Image>(
+      viewer, name, forms::Rect{PageLeft, PageTop, kind.PageWidth, kind.PageHeight},
+      kind.Pictures + twoDigits, "Página " + number);
+}
+
+}  // namespace
+
+PageViewer::PageViewer(const ViewerKind& kind)
+    : Page(kind.Name, ClientAreaOf(ViewerLeft, ViewerTop, kind.Width, kind.Height), kind.Caption),
+      Image1("Image1", 1, kind.Pages,
+             [this, &kind](int page, const std::string& name) {
+               return MakePage(*this, kind, page, name);
+             }),
+      kind_(kind) {
+  SetaE.AccessibleName = "Página anterior";
+  SetaD.AccessibleName = "Página seguinte";
+  Label2.Alignment = forms::Alignment::Center;
+  Label3.Caption = "de  " + std::to_string(kind.Pages);
+  Label4.Alignment = forms::Alignment::Center;
+  Command1.Font = forms::Font{};
+
+  SetaE.Click = [this] { SetaE_Click(); };
+  SetaD.Click = [this] { SetaD_Click(); };
+  Command1.Click = [this] { UserClose(); };
+}
+
+void PageViewer::Form_Load() {
+  page_ = OpeningPage();
+  for (int page = 1; page <= kind_.Pages; ++page) Image1(page).Visible = page == page_;
+  SetaE.Enabled = page_ != 1;
+  Label2.Caption = std::to_string(page_);
+}
+
+// A page that the manual does not have stands for the first: so do the instructions open when
+// nobody has yet said where.
+int PageViewer::OpeningPage() const {
+  const int page = kind_.OpeningPage == nullptr ? 1 : *kind_.OpeningPage;
+  return page >= 1 && page <= kind_.Pages ? page : 1;
+}
+
+void PageViewer::SetaD_Click() {
+  if (page_ != kind_.Pages && Image1(page_).Visible) {
+    Turn(1);
+    SetaE.Enabled = true;
+  }
+  if (page_ == kind_.Pages) SetaD.Enabled = false;
+  Label2.Caption = std::to_string(page_);
+}
+
+void PageViewer::SetaE_Click() {
+  if (page_ != 1 && Image1(page_).Visible) {
+    Turn(-1);
+    SetaD.Enabled = true;
+  }
+  if (page_ == 1) SetaE.Enabled = false;
+  Label2.Caption = std::to_string(page_);
+}
+
+void PageViewer::Turn(int pages) {
+  Image1(page_).Visible = false;
+  page_ += pages;
+  Image1(page_).Visible = true;
+}
+
+forms::Rect PageViewer::InRow(double left, double width, double height) const {
+  const double pageBottom = Image1(1).Top + Image1(1).Height;
+  return {left, (pageBottom + Height - height) / 2, width, height};
+}
+
+}  // namespace clinorama
