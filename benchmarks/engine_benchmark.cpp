@@ -76,7 +76,7 @@ void MuParserTime(benchmark::State& state, const char* text) {
   }
 }
 
-/// A table of two programs is worth nothing if they calculate different things.
+// A table of two programs is worth nothing if they calculate different things.
 bool Agree(const Expression& expression) {
   clinorama::clsEquation equation;
   equation.Equation(expression.ours);
@@ -89,8 +89,8 @@ bool Agree(const Expression& expression) {
   return std::fabs(ours - parser.Eval()) <= 1e-12 * (1 + std::fabs(ours));
 }
 
-/// Prints as usual and keeps the shortest time of each program, since what disturbs a measurement
-/// only ever makes it longer.
+// Prints as usual and keeps the shortest time of each program, since what disturbs a measurement
+// only ever makes it longer.
 class Collector final : public benchmark::ConsoleReporter {
  public:
   void ReportRuns(const std::vector<Run>& runs) override {
@@ -104,7 +104,7 @@ class Collector final : public benchmark::ConsoleReporter {
     }
   }
 
-  /// Prints the ratio engine / muParser of each expression and returns their geometric mean.
+  // Prints the ratio engine / muParser of each expression and returns their geometric mean.
   double Ratios() const {
     double logarithms = 0;
     int count = 0;

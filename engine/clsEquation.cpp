@@ -11,8 +11,8 @@ namespace clinorama {
 
 namespace {
 
-/// The one place where failures of the engine become errors of the interpreter. What a user can do
-/// something about keeps its number; anything else means that the expression is no good.
+// The one place where failures of the engine become errors of the interpreter. What a user can do
+// something about keeps its number; anything else means that the expression is no good.
 [[noreturn]] void RaiseError(const engine::Failure& failure) {
   const bool own = failure.number >= engine::WrongParentheses;
   if (own || failure.number == engine::InvalidArgument || failure.number == engine::Overflow ||
@@ -51,9 +51,6 @@ void clsEquation::Solve() {
     if (!Analisada_) {
       Interpretar();
     }
-    if (avaliador_.Empty()) {  // no text was ever set, or one without a single token
-      engine::Raise(engine::IndexOutOfRange);
-    }
     ErroDominio_ = false;
     Resultado_ = ForaDoDominio;
     const engine::Avaliacao avaliacao = avaliador_.Evaluate(Variaveis_);
@@ -65,10 +62,13 @@ void clsEquation::Solve() {
   }
 }
 
-/// Becomes valid only at its very end, so a text that is rejected here is rejected by every
-/// `Solve`.
+// Becomes valid only at its very end, so a text that is rejected here is rejected by every
+// `Solve`.
 void clsEquation::Interpretar() {
   avaliador_.Prepare(engine::Interpretar(Expressao_), Variaveis_);
+  if (avaliador_.Empty()) {  // no text was ever set, or one without a single token
+    engine::Raise(engine::IndexOutOfRange);
+  }
   Analisada_ = true;
 }
 

@@ -19,10 +19,10 @@ constexpr int UndefinedVariable = 1102;
 constexpr int InvalidExpression = 1103;
 constexpr int NoArgument = 1104;
 
-/// What an elementary step throws; it never leaves `clsEquation::Solve` in this form. It is a
-/// standard exception for the pages, which calculate with the same steps and let their own manner
-/// of handling failures catch it. A failure is rare, so the descriptions are made only when one is
-/// thrown.
+// What an elementary step throws; it never leaves `clsEquation::Solve` in this form. It is a
+// standard exception for the pages, which calculate with the same steps and let their own manner
+// of handling failures catch it. A failure is rare, so the descriptions are made only when one is
+// thrown.
 struct Failure : std::exception {
   Failure(int code, std::string words) : number(code), description(std::move(words)) {}
   const char* what() const noexcept override { return description.c_str(); }
@@ -31,15 +31,15 @@ struct Failure : std::exception {
   std::string description;
 };
 
-/// The words for a failure whose description needs no part of the expression. Whatever has none of
-/// its own is an invalid expression to the user.
+// The words for a failure whose description needs no part of the expression. Whatever has none of
+// its own is an invalid expression to the user.
 std::string DescriptionOf(int number);
 
-/// Throws the failure of that number with its standing description. It is a function of its own
-/// and not a part of every check, so that the code of the checks stays small.
+// Throws the failure of that number with its standing description. It is a function of its own
+// and not a part of every check, so that the code of the checks stays small.
 [[noreturn]] void Raise(int number);
 
-/// Throws a failure whose description names a part of the expression.
+// Throws a failure whose description names a part of the expression.
 [[noreturn]] void Raise(int number, std::string description);
 
 }  // namespace clinorama::engine

@@ -36,16 +36,16 @@ Guard Value(double& result, double value) {
   return Guard::Passed;
 }
 
-/// 1 - a * a, written as the inverse functions need it.
+// 1 - a * a, written as the inverse functions need it.
 double OneMinusSquare(double a) { return Add(Multiply(-a, a), 1); }
 double SquareMinusOne(double a) { return Subtract(Multiply(a, a), 1); }
 double SquarePlusOne(double a) { return Add(Multiply(a, a), 1); }
 
-/// Half a turn is 4 * atan(1) throughout; the inverse functions shift by a quarter.
+// Half a turn is 4 * atan(1) throughout; the inverse functions shift by a quarter.
 double QuarterTurn() { return 2 * std::atan(1.0); }
 
-/// exp(a) - exp(-a) and exp(a) + exp(-a): twice the hyperbolic sine and cosine, and the stuff of
-/// the four others. Both fail where one of the exponentials does.
+// exp(a) - exp(-a) and exp(a) + exp(-a): twice the hyperbolic sine and cosine, and the stuff of
+// the four others. Both fail where one of the exponentials does.
 double TwiceSinh(double a) { return Subtract(Exp(a), Exp(-a)); }
 double TwiceCosh(double a) { return Add(Exp(a), Exp(-a)); }
 

@@ -1,7 +1,6 @@
 // What the evaluator does when it takes a new expression: texts become numbers, codes and slots,
 // and the walk over the cells becomes a programme.
 
-#include <algorithm>
 #include <utility>
 
 #include "engine/evaluator.h"
@@ -40,48 +39,52 @@ Op OpOf(TokenKind kind) {
 
 }  // namespace
 
-/// Keeps the steps of a walk in which every division is done.
+// Keeps the steps of a walk in which every division is done.
 class Avaliador::Gravador final : public Executante {
  public:
   explicit Gravador(Avaliador& avaliador) : avaliador_(avaliador) {}
 
   Outcome Perform(const Step& step) override {
-    std::vector<Step>& programa = avaliador_.programa_;
-    if (step.op == Op::Variable) {  // its value is put in place before the programme begins
-      Use({step.left, step.target});
-    } else if (step.op == Op::Divide) {  // a test has gone before: the two are one step
-      const std::int32_t visit = programa.back().visit;
-      programa.back() = step;
-      programa.back().op = Op::TestAndDivide;
-      programa.back().visit = visit;
-    } else {
-      programa.push_back(step);
+    std::vector<Instruction>& programa = avaliador_.programa_;
+    Step kept = step;
+    switch (step.op) {
+      case Op::Variable:  // its value is looked for before the programme begins
+        avaliador_.slots_.push_back(step.left);
+        return Outcome::Next;
+      case Op::Divide:  // a test has gone before: the two are one step
+        kept.op = Op::TestAndDivide;
+        kept.visit = programa.back().step.visit;
+        programa.pop_back();
+        break;
+      case Op::Power:
+        kept.op = avaliador_.PowerOf(step.right);
+        break;
+      default:
+        break;
     }
+    programa.push_back(avaliador_.Ready(kept));
     return Outcome::Next;
   }
 
  private:
-  void Use(const Uso& uso) {
-    std::vector<Uso>& usos = avaliador_.usos_;
-    if (std::none_of(usos.begin(), usos.end(),
-                     [&](const Uso& other) { return other.slot == uso.slot; })) {
-      usos.push_back(uso);
-    }
-  }
-
   Avaliador& avaliador_;
 };
 
 void Avaliador::Prepare(Analise analise, Variables& variaveis) {
   simbolos_ = std::move(analise.Simbolos);
   programa_.clear();
-  usos_.clear();
+  slots_.clear();
+  changes_ = 0;
   if (simbolos_.empty()) {
     return;
   }
   numbers_.assign(2 * (simbolos_.size() + 1), 0);
+  sources_.clear();
+  for (const double& number : numbers_) {
+    sources_.push_back(&number);
+  }
   std::vector<Celula> cells = PrepareCells();
-  std::vector<Visita> visitas = PrepareVisits(analise.OrdemAvaliacao, cells, variaveis);
+  std::vector<Visita> visitas = PrepareVisits(analise.OrdemAvaliacao, variaveis);
   passeio_ = Passeio(std::move(cells), std::move(visitas));
   Gravador gravador(*this);
   if (passeio_.Visit(0, passeio_.Visits(), gravador)) {
@@ -89,7 +92,7 @@ void Avaliador::Prepare(Analise analise, Variables& variaveis) {
   }
 }
 
-/// The numbers that cells have at the start stand behind those of the results, in the same order.
+// The numbers that cells have at the start stand behind those of the results, in the same order.
 std::int32_t Avaliador::InitialPlace(std::int32_t position) const {
   return static_cast<std::int32_t>(simbolos_.size()) + 1 + position;
 }
@@ -115,9 +118,8 @@ std::vector<Celula> Avaliador::PrepareCells() {
 }
 
 std::vector<Visita> Avaliador::PrepareVisits(const std::vector<std::int32_t>& ordem,
-                                             std::vector<Celula>& cells, Variables& variaveis) {
+                                             Variables& variaveis) {
   std::vector<Visita> visitas;
-  std::vector<Uso> usos;
   for (std::size_t i = 0; i < ordem.size(); ++i) {
     const Simbolo& simbolo = simbolos_[static_cast<std::size_t>(ordem[i]) - 1];
     Visita visita{.kind = simbolo.kind, .p = ordem[i], .op = OpOf(simbolo.kind)};
@@ -125,16 +127,16 @@ std::vector<Visita> Avaliador::PrepareVisits(const std::vector<std::int32_t>& or
       visita.q = ordem[++i];
       visita.function = FindFunction(simbolo.text);
     } else if (simbolo.kind == TokenKind::Name) {
-      std::int32_t& place = cells[static_cast<std::size_t>(visita.p)].place;
+      const auto place = static_cast<std::size_t>(InitialPlace(visita.p));
       visita.constant = simbolo.text == "pi" || simbolo.text == "e";
       if (visita.constant) {
-        numbers_[static_cast<std::size_t>(place)] = simbolo.text == "e" ? E : Pi;
+        numbers_[place] = simbolo.text == "e" ? E : Pi;
       } else if (simbolo.text == "rnd") {
         visita.op = Op::Random;
       } else {
         visita.op = Op::Variable;
         visita.slot = variaveis.Slot(simbolo.text);
-        place = PlaceOf({visita.slot, place}, usos);
+        sources_[place] = variaveis.Value(visita.slot);
       }
     }
     visitas.push_back(visita);
@@ -142,15 +144,27 @@ std::vector<Visita> Avaliador::PrepareVisits(const std::vector<std::int32_t>& or
   return visitas;
 }
 
-/// All cells of a variable share the place of the first of them.
-std::int32_t Avaliador::PlaceOf(const Uso& uso, std::vector<Uso>& usos) {
-  for (const Uso& other : usos) {
-    if (other.slot == uso.slot) {
-      return other.place;
-    }
+// The step with its operands found. The fields of those that calculate nothing are no places, but
+// for the one of a result.
+Instruction Avaliador::Ready(const Step& step) {
+  Instruction instruction{.routine = RoutineOf(step.op), .step = step};
+  if (step.op < Op::Variable || step.op == Op::Result) {
+    instruction.target = &numbers_[static_cast<std::size_t>(step.target)];
+    instruction.left = sources_[static_cast<std::size_t>(step.left)];
+    instruction.right = sources_[static_cast<std::size_t>(step.right)];
   }
-  usos.push_back(uso);
-  return uso.place;
+  return instruction;
+}
+
+// How to raise to the exponent at that place: squares and cubes are what pupils write most.
+Op Avaliador::PowerOf(std::int32_t exponent) const {
+  const std::int32_t first = InitialPlace(1);
+  if (exponent < first ||
+      simbolos_[static_cast<std::size_t>(exponent - first)].kind != TokenKind::Numeral) {
+    return Op::Power;
+  }
+  const double value = numbers_[static_cast<std::size_t>(exponent)];
+  return value == 2 ? Op::Square : value == 3 ? Op::Cube : Op::Power;
 }
 
 }  // namespace clinorama::engine

@@ -10,7 +10,7 @@ std::uint32_t Byte(std::string_view text, std::size_t at) {
   return static_cast<unsigned char>(text[at]);
 }
 
-/// The code point that `length` bytes of well-formed length and continuation spell.
+// The code point that `length` bytes of well-formed length and continuation spell.
 std::uint32_t CodePoint(std::string_view text, std::size_t at, std::size_t length) {
   std::uint32_t code = Byte(text, at) & (0xFFU >> (length + 1));
   for (std::size_t i = 1; i < length; ++i) {
@@ -19,8 +19,8 @@ std::uint32_t CodePoint(std::string_view text, std::size_t at, std::size_t lengt
   return code;
 }
 
-/// Lower case among the accented letters that two bytes hold: Latin-1 and Latin Extended-A. In the
-/// latter capitals and small letters alternate, but which of them is even changes on the way.
+// Lower case among the accented letters that two bytes hold: Latin-1 and Latin Extended-A. In the
+// latter capitals and small letters alternate, but which of them is even changes on the way.
 std::uint32_t LowerAccented(std::uint32_t code) {
   constexpr std::uint32_t MultiplicationSign = 0xD7;  // sits among the capitals of Latin-1
   constexpr std::uint32_t DottedI = 0x130;            // its small letter is the plain i

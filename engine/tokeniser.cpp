@@ -12,12 +12,12 @@ namespace clinorama::engine {
 
 namespace {
 
-/// What parentheses add to the priority of all that is inside them: one more than the highest rank
-/// below, so that the ranks of two depths never mix.
+// What parentheses add to the priority of all that is inside them: one more than the highest rank
+// below, so that the ranks of two depths never mix.
 constexpr int Degrau = 7;
 
-/// Rank of a kind within its depth. `^` binds tighter than the unary minus, which binds tighter
-/// than `*`, `/` and `\`; `%` stands between those and `+`, `-`.
+// Rank of a kind within its depth. `^` binds tighter than the unary minus, which binds tighter
+// than `*`, `/` and `\`; `%` stands between those and `+`, `-`.
 constexpr int Posto(TokenKind kind) {
   switch (kind) {
     case TokenKind::Add:
@@ -46,7 +46,7 @@ constexpr int Posto(TokenKind kind) {
   return 0;
 }
 
-/// A counter of 16 bits: leaving its range is the failure that a longer or deeper text ends in.
+// A counter of 16 bits: leaving its range is the failure that a longer or deeper text ends in.
 int Limited(int count) {
   if (count > std::numeric_limits<std::int16_t>::max() ||
       count < std::numeric_limits<std::int16_t>::min()) {
@@ -55,7 +55,7 @@ int Limited(int count) {
   return count;
 }
 
-/// The scan of a text, character by character.
+// The scan of a text, character by character.
 class Leitor {
  public:
   Analise Ler(std::string_view expressao) {
@@ -168,7 +168,7 @@ class Leitor {
     depoisDeValor_ = false;
   }
 
-  /// Stores the name or the numeral that is being collected, if there is one.
+  // Stores the name or the numeral that is being collected, if there is one.
   void Despejar() {
     if (tipo_ != Tipo::Nenhum) {
       const TokenKind kind = tipo_ == Tipo::Nome ? TokenKind::Name : TokenKind::Numeral;

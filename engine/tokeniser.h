@@ -7,7 +7,7 @@
 
 namespace clinorama::engine {
 
-/// What a token is. The evaluation asks for the kind and never for the text.
+// What a token is. The evaluation asks for the kind and never for the text.
 enum class TokenKind : std::uint8_t {
   Numeral,
   Comma,
@@ -20,30 +20,30 @@ enum class TokenKind : std::uint8_t {
   Negate,
   Power,
   Name,
-  Open,      ///< "(" alone
-  Function,  ///< a name and its "("
+  Open,      // "(" alone
+  Function,  // a name and its "("
   Close,
 };
 
-/// One cell of the expression.
+// One cell of the expression.
 struct Simbolo {
   TokenKind kind;
-  std::string text;  ///< as it appears in messages; a function's ends in "(", a comma's is empty
+  std::string text;  // as it appears in messages; a function's ends in "(", a comma's is empty
 };
 
-/// An expression text taken apart. There is no tree: the tokens stay in a row, and the order says
-/// which of them acts first on its neighbours.
+// An expression text taken apart. There is no tree: the tokens stay in a row, and the order says
+// which of them acts first on its neighbours.
 struct Analise {
   std::vector<Simbolo> Simbolos;
-  /// 1-based positions in `Simbolos`, the highest priority first and equal ones from left to right.
-  /// Numerals, commas and what stands behind a surplus ")" need no visit and are not listed. An
-  /// opening token is always followed by the ")" that closes it.
+  // 1-based positions in `Simbolos`, the highest priority first and equal ones from left to right.
+  // Numerals, commas and what stands behind a surplus ")" need no visit and are not listed. An
+  // opening token is always followed by the ")" that closes it.
   std::vector<std::int32_t> OrdemAvaliacao;
 };
 
-/// Takes a lower-case text apart. Nothing malformed is rejected here but a wrong count of
-/// parentheses (`WrongParentheses`); a text, a depth or a number of tokens that the 16-bit counters
-/// cannot hold is an `Overflow`.
+// Takes a lower-case text apart. Nothing malformed is rejected here but a wrong count of
+// parentheses (`WrongParentheses`); a text, a depth or a number of tokens that the 16-bit counters
+// cannot hold is an `Overflow`.
 Analise Interpretar(std::string_view expressao);
 
 }  // namespace clinorama::engine

@@ -28,8 +28,8 @@ void Passeio::Conclude(Executante& by) {
   }
 }
 
-/// Reads the cell as a number: where that fails, the failure is the step to perform. Whoever is
-/// told so ends the walk.
+// Reads the cell as a number: where that fails, the failure is the step to perform. Whoever is
+// told so ends the walk.
 bool Passeio::Readable(std::int32_t cell, Executante& by) {
   const std::int32_t failure = At(cell).failure;
   if (failure != 0) {
@@ -38,13 +38,13 @@ bool Passeio::Readable(std::int32_t cell, Executante& by) {
   return failure == 0;
 }
 
-/// The cell holds a result from now on.
+// The cell holds a result from now on.
 void Passeio::Receive(std::int32_t cell) {
   At(cell).place = cell;
   At(cell).failure = 0;
 }
 
-/// Its neighbours become neighbours of each other. Cell 0 is on both ends of the row.
+// Its neighbours become neighbours of each other. Cell 0 is on both ends of the row.
 void Passeio::Null(std::int32_t cell) {
   const Celula gone = At(cell);
   At(gone.anterior).proximo = gone.proximo;
@@ -85,7 +85,7 @@ Outcome Passeio::Minus(const Visita& visita, Executante& by) {
 Outcome Passeio::Name(const Visita& visita, Executante& by) {
   Celula& cell = At(visita.p);
   if (visita.op == Op::Variable) {
-    by.Perform({.op = Op::Variable, .target = cell.place, .left = visita.slot, .right = visita.p});
+    by.Perform({.op = Op::Variable, .left = visita.slot, .right = visita.p});
   } else if (!visita.constant) {
     by.Perform({.op = visita.op, .target = visita.p});
     cell.place = visita.p;
@@ -131,7 +131,7 @@ Outcome Passeio::Division(const Visita& visita, std::size_t index, Executante& b
   return Readable(l, by) ? Combine(visita, by) : Outcome::End;
 }
 
-/// The result of a binary operation takes the left cell.
+// The result of a binary operation takes the left cell.
 Outcome Passeio::Combine(const Visita& visita, Executante& by) {
   const std::int32_t l = ValorAnterior(visita.p);
   const std::int32_t r = ProximoValor(visita.p);
@@ -142,7 +142,7 @@ Outcome Passeio::Combine(const Visita& visita, Executante& by) {
   return Outcome::Next;
 }
 
-/// Takes the first cell inside as it stands, be it a number or an operator that was left there.
+// Takes the first cell inside as it stands, be it a number or an operator that was left there.
 Outcome Passeio::Parentheses(const Visita& visita) {
   const std::int32_t r = ProximoValor(visita.p);
   if (r < visita.q) {

@@ -2,6 +2,7 @@
 
 #include <clocale>
 #include <string>
+#include <vector>
 
 #include "tests/engine/outcome.h"
 
@@ -121,6 +122,18 @@ TEST(ClsEquation, LeavesTheCodeOfTheLastGuardedOperation) {
   equation.Var("x", 1);
   EXPECT_EQ(equation.Solution(), 1000);
   EXPECT_EQ(Module1::CodigoDominio, 18);
+}
+
+TEST(ClsEquation, GoesOnWhereItIsMovedTo) {
+  std::vector<clsEquation> equations(1);
+  equations[0].Equation("x^2+y");
+  equations[0].Var("x", 2);
+  equations[0].Var("y", 1);
+  EXPECT_EQ(equations[0].Solution(), 5);
+  equations.resize(20);  // which moves the first
+  EXPECT_EQ(equations[0].Solution(), 5);
+  equations[0].Var("x", 3);
+  EXPECT_EQ(equations[0].Solution(), 10);
 }
 
 TEST(ClsEquation, ReadsNumeralsAlikeInEveryLocale) {

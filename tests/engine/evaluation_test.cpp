@@ -1,8 +1,8 @@
 #include <cmath>
 #include <limits>
+#include <random>
 #include <string>
 
-#include "engine/checked.h"
 #include "tests/engine/outcome.h"
 
 namespace clinorama::tests {
@@ -153,6 +153,7 @@ TEST(Evaluation, RaisesErrors) {
       {"exp(1000)", 2, Error(6, Overflow)},
       {"x*x", Huge, Error(6, Overflow)},
       {"x^2", Huge, Error(6, Overflow)},
+      {"x^3", -Huge, Error(6, Overflow)},
       {"x/0.00001", 1e306, Error(6, Overflow)},
       {"1\\3000000000", 2, Error(6, Overflow)},
       {"2147483647.5%2", 2, Error(6, Overflow)},
@@ -178,17 +179,42 @@ TEST(Evaluation, AnswersAnewForEachValueOfTheVariable) {
       {"again both done", 4, Value(3 + ln4, 66)},
       {"outside", -1, Domain(15)},
       {"inside again", 4, Value(3 + ln4, 66)},
+      {"no number", NotANumber, Error(6, Overflow)},
+      {"a number again", 4, Value(3 + ln4, 66)},
   };
   for (const Case& row : rows) {
     Check(row, equation);
   }
 }
 
-TEST(Evaluation, SquaresAsThePowerFunctionDoes) {
+TEST(Evaluation, SquaresAndCubesAsThePowerFunctionDoes) {
   volatile double two = 2;  // hidden from the compiler, which would make a product of it
-  for (double x = -12; x <= 12; x += 0.0005) {
-    ASSERT_EQ(engine::Power(x, two), std::pow(x, two)) << x;
+  volatile double three = 3;
+  clsEquation square;
+  square.Equation("x^2");
+  clsEquation cube;
+  cube.Equation("x^3");
+  std::mt19937 generator(5);
+  std::uniform_real_distribution<double> digits(-2, 2);
+  std::uniform_int_distribution<int> exponents(-30, 30);
+  constexpr int Draws = 200000;
+  for (int i = 0; i < Draws; ++i) {
+    // Half of the sizes are those of drawings, the others go beyond what products are taken for.
+    const double x =
+        i % 2 == 0 ? 6 * digits(generator) : std::ldexp(digits(generator), exponents(generator));
+    square.Var("x", x);
+    cube.Var("x", x);
+    ASSERT_EQ(square.Solution(), std::pow(x, two)) << x;
+    ASSERT_EQ(cube.Solution(), std::pow(x, three)) << x;
   }
+}
+
+TEST(Evaluation, HoldsTheLongestProgramme) {
+  std::string text = "x";
+  for (int i = 0; i < 10922; ++i) {
+    text += "%-x";  // a sign, a test and a remainder
+  }
+  Check({text, 2, Value(0)});
 }
 
 }  // namespace

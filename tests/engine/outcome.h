@@ -9,10 +9,10 @@
 
 namespace clinorama::tests {
 
-/// A code that no operation sets: where it is still there afterwards, nothing was written.
+// A code that no operation sets: where it is still there afterwards, nothing was written.
 constexpr int Untouched = 99;
 
-/// What comes of a `Solve`: a value, a point outside the domain, or an error.
+// What comes of a `Solve`: a value, a point outside the domain, or an error.
 struct Outcome {
   double value = 0;  // what `Solution` gives
   int code = Untouched;
@@ -27,7 +27,7 @@ inline Outcome Error(int number, std::string description, int code = Untouched) 
 }
 inline Outcome Invalid() { return Error(1103, "Expressão inválida"); }
 
-/// A row of a table: the text is evaluated for that `x`.
+// A row of a table: the text is evaluated for that `x`.
 struct Case {
   std::string text;
   double x;

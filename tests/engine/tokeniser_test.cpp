@@ -15,7 +15,7 @@ using engine::Analise;
 using engine::Interpretar;
 using Order = std::vector<std::int32_t>;
 
-/// The tokens with bars between them; the null cell of a comma is a dot.
+// The tokens with bars between them; the null cell of a comma is a dot.
 std::string Tokens(const Analise& analise) {
   std::string text;
   for (const engine::Simbolo& simbolo : analise.Simbolos) {
