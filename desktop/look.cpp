@@ -101,6 +101,7 @@ QPixmap PictureFor(const std::string& name, QSize size, double ratio) {
   pixmap = QPixmap(pixels);
   pixmap.fill(Qt::transparent);
   QPainter painter(&pixmap);
+  painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
   renderer.setAspectRatioMode(Qt::KeepAspectRatio);
   renderer.render(&painter);
   painter.end();

@@ -7,6 +7,7 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QImage>
 #include <QPixmap>
 #include <QWidget>
 #include <cstdio>
@@ -38,12 +39,19 @@ QWidget* WindowOf(const forms::Page& page) {
   return nullptr;
 }
 
-// A picture of a whole page, or of one of its controls.
+// A picture of a whole page, or of one of its controls. Whole pages are made smaller here, smoothly:
+// the manual shows them smaller still, and thin lines would be lost if it had to do it all.
 void Take(forms::Page& page, const char* name, const char* control = nullptr) {
+  constexpr double WholePageScale = 2.0 / 3;
   QWidget* widget = WindowOf(page);
   if (widget != nullptr && control != nullptr) widget = widget->findChild<QWidget*>(control);
-  const QString file = QDir(folder).filePath(QString("%1.png").arg(name));
-  if (widget == nullptr || !widget->grab().save(file)) {
+  QImage picture;
+  if (widget != nullptr) picture = widget->grab().toImage();
+  if (control == nullptr && !picture.isNull()) {
+    picture = picture.scaledToWidth(qRound(picture.width() * WholePageScale),
+                                    Qt::SmoothTransformation);
+  }
+  if (!picture.save(QDir(folder).filePath(QString("%1.png").arg(name)))) {
     std::fprintf(stderr, "page_pictures: no picture %s\n", name);
     std::exit(EXIT_FAILURE);
   }
