@@ -37,6 +37,7 @@ double QtHost::Density() const { return qApp->devicePixelRatio(); }
 void QtHost::Shown(forms::Page& page) {
   PageWindow*& window = windows_[&page];
   if (window == nullptr) window = new PageWindow(page);
+  window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
   window->show();
   window->raise();
   window->activateWindow();
