@@ -38,7 +38,7 @@ class PaintCounter : public QObject {
 
 int main(int argc, char* argv[]) {
   QApplication qt(argc, argv);
-  clinorama::desktop::SetLook(qt);
+  clinorama::desktop::SetLook();
   CountingHost host;
   clinorama::forms::Application application(host);
   auto& page = clinorama::forms::The<clinorama::Form12>();

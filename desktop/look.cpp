@@ -50,7 +50,7 @@ QPalette LightPalette() {
 
 }  // namespace
 
-void SetLook(QApplication& application) {
+void SetLook() {
   QLocale::setDefault(QLocale(QLocale::Portuguese, QLocale::Portugal));
   QGuiApplication::setDesktopFileName(QStringLiteral("clinorama"));
   QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
@@ -58,7 +58,7 @@ void SetLook(QApplication& application) {
   QApplication::setFont(FontFor({}));
   QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/clinorama.svg")));
   static Portuguese translator;
-  application.installTranslator(&translator);
+  QApplication::installTranslator(&translator);
 }
 
 QFont FontFor(const forms::Font& font) {

@@ -10,13 +10,11 @@
 #include "forms/color.h"
 #include "forms/font.h"
 
-class QApplication;
-
 namespace clinorama::desktop {
 
 // Gives the program the same look on every desktop: style, light colours, base font, icon, and
 // Portuguese texts in the toolkit's own dialogs and menus.
-void SetLook(QApplication& application);
+void SetLook();
 
 // The installed font that stands for a page's font on a widget.
 QFont FontFor(const forms::Font& font);

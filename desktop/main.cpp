@@ -7,7 +7,7 @@
 
 int main(int argc, char* argv[]) {
   QApplication qt(argc, argv);
-  clinorama::desktop::SetLook(qt);
+  clinorama::desktop::SetLook();
   clinorama::desktop::QtHost host;
   clinorama::forms::Application application(host);
   clinorama::forms::The<clinorama::Form2>().Show();

@@ -27,7 +27,7 @@ Control::Control(Page& page, std::string name, const Rect& rect)
       page_(&page) {}
 
 std::string Control::SpokenName() const {
-  const std::string caption = CaptionText();
+  std::string caption = CaptionText();
   if (!AccessibleName().empty()) {
     return caption.empty() ? AccessibleName() : AccessibleName() + ": " + caption;
   }

@@ -39,8 +39,9 @@ QWidget* WindowOf(const forms::Page& page) {
   return nullptr;
 }
 
-// A picture of a whole page, or of one of its controls. Whole pages are made smaller here, smoothly:
-// the manual shows them smaller still, and thin lines would be lost if it had to do it all.
+// A picture of a whole page, or of one of its controls. Whole pages are made smaller here,
+// smoothly: the manual shows them smaller still, and thin lines would be lost if it had to do it
+// all.
 void Take(forms::Page& page, const char* name, const char* control = nullptr) {
   constexpr double WholePageScale = 2.0 / 3;
   QWidget* widget = WindowOf(page);
@@ -48,8 +49,8 @@ void Take(forms::Page& page, const char* name, const char* control = nullptr) {
   QImage picture;
   if (widget != nullptr) picture = widget->grab().toImage();
   if (control == nullptr && !picture.isNull()) {
-    picture = picture.scaledToWidth(qRound(picture.width() * WholePageScale),
-                                    Qt::SmoothTransformation);
+    picture =
+        picture.scaledToWidth(qRound(picture.width() * WholePageScale), Qt::SmoothTransformation);
   }
   if (!picture.save(QDir(folder).filePath(QString("%1.png").arg(name)))) {
     std::fprintf(stderr, "page_pictures: no picture %s\n", name);
@@ -172,7 +173,7 @@ int main(int argc, char* argv[]) {
     return EXIT_FAILURE;
   }
   clinorama::folder = argv[1];
-  clinorama::desktop::SetLook(qt);
+  clinorama::desktop::SetLook();
   clinorama::Camera camera;
   clinorama::forms::Application application(camera);
   clinorama::TakeAll(camera);

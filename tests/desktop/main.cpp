@@ -10,6 +10,6 @@ int main(int argc, char* argv[]) {
   testing::InitGoogleTest(&argc, argv);
   GTEST_FLAG_SET(death_test_style, "threadsafe");  // the toolkit may run threads
   QApplication application(argc, argv);
-  clinorama::desktop::SetLook(application);
+  clinorama::desktop::SetLook();
   return RUN_ALL_TESTS();
 }

@@ -181,7 +181,7 @@ TEST(Functions, DrawOnceForADivisorThatIsLeftUndone) {
     undone += equation.Solution() == 3 ? 1 : 0;
     ASSERT_TRUE(equation.Solution() == 3 || equation.Solution() == -2);
   }
-  EXPECT_NEAR(undone, Draws / 2, 200);
+  EXPECT_NEAR(undone, Draws / 2.0, 200);
 }
 
 }  // namespace
