@@ -1,9 +1,9 @@
 #include "relations/sampling.h"
 
-#include <cmath>
 #include <cstddef>
 #include <vector>
 
+#include "engine/checked.h"
 #include "forms/counted_loop.h"
 #include "forms/failure.h"
 
@@ -17,15 +17,9 @@ constexpr double Step = 0.001;            // of every quotient, chord and pair, 
 constexpr double FirstAbscissa = -8.001;  // of the value before all derivative loops, however early
                                           // they begin
 
-// No infinity may stay in a value.
-double Checked(double value) {
-  if (!std::isfinite(value)) throw forms::Overflow();
-  return value;
-}
-
 // The quotient of the differences as they come out, not of the nominal step.
 double Quotient(double yb, double ya, double xb, double xa) {
-  return Checked((yb - ya) / (xb - xa));
+  return engine::Guarded((yb - ya) / (xb - xa));
 }
 
 // One value for each sample of a walk, counted from 0. A cell holds nothing at first, and nothing
@@ -150,7 +144,7 @@ void Chords(Sampler& f, const Range& range, const Take& take) {
     f.Evaluate(x2, y2);
     const double xm = x1 + (x2 - x1) / 2;
     f.Evaluate(xm, ym);
-    f.Recovery.Statement([&] { yc = Checked(y1 + ((y2 - y1) * (xm - x1)) / (x2 - x1)); });
+    f.Recovery.Statement([&] { yc = engine::Guarded(y1 + ((y2 - y1) * (xm - x1)) / (x2 - x1)); });
     take({.X = x1, .Value = ym, .Reference = yc});
   });
 }
