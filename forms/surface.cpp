@@ -13,7 +13,6 @@ namespace {
 
 // A dotted line is this many logical pixels on and as many off, counted from its first point.
 constexpr int DotLength = 2;
-constexpr int Solid = 0;
 
 // Coordinates are stored as 32-bit reals.
 double Reduced(double coordinate) {
@@ -87,7 +86,7 @@ void Surface::ClearPicture() {
   kept_.Fill(backColor_);
   screen_.Fill(backColor_);
   Touch(screen_.Bounds());
-  Tell({.What = DrawingOperation::Kind::Clear, .Kept = true});
+  if (Observer) Tell({.What = DrawingOperation::Kind::Clear, .Kept = true});
 }
 
 void Surface::Cls() {
@@ -96,7 +95,7 @@ void Surface::Cls() {
     return;
   }
   Restore();
-  Tell({.What = DrawingOperation::Kind::Clear});
+  if (Observer) Tell({.What = DrawingOperation::Kind::Clear});
 }
 
 void Surface::Restore() {
@@ -107,13 +106,15 @@ void Surface::Restore() {
 void Surface::Line(double x1, double y1, double x2, double y2, std::optional<Color> color) {
   const Color pen = color.value_or(ForeColor);
   PaintLine(DeviceX(x1), DeviceY(y1), DeviceX(x2), DeviceY(y2), pen);
-  Tell({.What = DrawingOperation::Kind::Line, .X1 = x1, .Y1 = y1, .X2 = x2, .Y2 = y2, .Pen = pen});
+  if (Observer)
+    Tell(
+        {.What = DrawingOperation::Kind::Line, .X1 = x1, .Y1 = y1, .X2 = x2, .Y2 = y2, .Pen = pen});
 }
 
 void Surface::PSet(double x, double y, std::optional<Color> color) {
   const Color pen = color.value_or(ForeColor);
   PaintDot(DeviceX(x), DeviceY(y), DevicePixels(DrawWidth), pen);
-  Tell({.What = DrawingOperation::Kind::Point, .X1 = x, .Y1 = y, .Pen = pen});
+  if (Observer) Tell({.What = DrawingOperation::Kind::Point, .X1 = x, .Y1 = y, .Pen = pen});
 }
 
 // A line goes along its longer direction: in each column (or row) of pixels it covers one run of
@@ -185,7 +186,9 @@ void Surface::Circle(double x, double y, double radius) {
       if (std::abs(distance - deviceRadius) <= half) Paint({column, row, 1, 1}, ForeColor);
     }
   }
-  Tell({.What = DrawingOperation::Kind::Circle, .X1 = x, .Y1 = y, .X2 = radius, .Pen = ForeColor});
+  if (Observer)
+    Tell(
+        {.What = DrawingOperation::Kind::Circle, .X1 = x, .Y1 = y, .X2 = radius, .Pen = ForeColor});
 }
 
 void Surface::Print(const std::string& text) {
@@ -198,11 +201,18 @@ void Surface::Print(const std::string& text) {
   PaintText(screen_, run);
   if (AutoRedraw) PaintText(kept_, run);
   Touch(screen_.Bounds());
-  Tell({.What = DrawingOperation::Kind::Text,
-        .X1 = CurrentX,
-        .Y1 = CurrentY,
-        .Pen = ForeColor,
-        .Text = text});
+  if (Observer)
+    Tell({.What = DrawingOperation::Kind::Text,
+          .X1 = CurrentX,
+          .Y1 = CurrentY,
+          .Pen = ForeColor,
+          .Text = text});
+}
+
+void Surface::PrintAt(double x, double y, const std::string& text) {
+  CurrentX = x;
+  CurrentY = y;
+  Print(text);
 }
 
 void Surface::Paint(const PixelRect& rect, Color pen) {
@@ -226,7 +236,6 @@ PixelRect Surface::TakeDirty() {
 }
 
 void Surface::Tell(DrawingOperation operation) const {
-  if (!Observer) return;
   operation.DrawMode = DrawMode;
   operation.DrawStyle = DrawStyle;
   operation.DrawWidth = DrawWidth;

@@ -10,6 +10,13 @@
 
 namespace clinorama::forms {
 
+// Values of DrawStyle and DrawMode. A wide pen draws solid, whatever the style.
+inline constexpr int Solid = 0;
+inline constexpr int Dotted = 2;
+inline constexpr int NotMergePen = static_cast<int>(RasterOperation::NotMerge);
+inline constexpr int InvertPixel = static_cast<int>(RasterOperation::Invert);
+inline constexpr int CopyPen = static_cast<int>(RasterOperation::Copy);
+
 // A text on its way into a raster: where its upper left corner stands, in device pixels, and how
 // many device pixels make a logical one.
 struct TextRun {
@@ -30,8 +37,8 @@ struct DrawingOperation {
   double X2 = 0;  // for a circle the radius
   double Y2 = 0;
   Color Pen{};
-  int DrawMode = 13;
-  int DrawStyle = 0;
+  int DrawMode = CopyPen;
+  int DrawStyle = Solid;
   int DrawWidth = 1;
   bool Kept = false;  // whether it went to the kept picture too
   std::string Text{};
@@ -55,8 +62,8 @@ class Surface {
 
   // The pen and the text, which keep their values until they are changed.
   bool AutoRedraw = false;
-  int DrawMode = 13;  // 13 copy, 2 not-merge, 6 invert
-  int DrawStyle = 0;  // 0 solid, 2 dotted; a wide pen draws solid
+  int DrawMode = CopyPen;
+  int DrawStyle = Solid;
   int DrawWidth = 1;  // logical pixels
   int FillStyle = 1;  // kept for its readers; nothing here fills
   Color FillColor;
@@ -89,6 +96,8 @@ class Surface {
   void Circle(double x, double y, double radius);
   // Writes a text at CurrentX, CurrentY in ForeColor, on a transparent ground.
   void Print(const std::string& text);
+  // The same with the corner at (x, y), where it stays.
+  void PrintAt(double x, double y, const std::string& text);
 
   // Brings the kept picture to the screen, as when a hidden surface is shown.
   void Restore();
@@ -122,7 +131,7 @@ class Surface {
   void PaintDot(double x, double y, int size, Color pen);
   void PaintLine(double x1, double y1, double x2, double y2, Color pen);
   void Touch(const PixelRect& rect);
-  void Tell(DrawingOperation operation) const;
+  void Tell(DrawingOperation operation) const;  // asks for an Observer
 
   double width_;  // twips
   double height_;
@@ -136,5 +145,17 @@ class Surface {
   Raster screen_;
   PixelRect dirty_;
 };
+
+// A step of a motion: draws a figure, waits, and takes the figure away without a copy of what lies
+// under it. A pixel ends as it was or with the pen's bits added, so a figure that crosses other
+// drawing leaves marks. `draw` must draw the same pixels both times.
+template <class Draw, class Wait>
+void ShowInPassing(Surface& surface, Draw draw, Wait wait) {
+  surface.DrawMode = NotMergePen;
+  draw();
+  wait();
+  surface.DrawMode = InvertPixel;
+  draw();
+}
 
 }  // namespace clinorama::forms

@@ -92,7 +92,6 @@ class Form9 : public forms::Page {
   void Mover(int marker, double x, double y, double corner);
   void Colocar(int marker, double x, double y, double corner);
   void MoverPonto(const lesson::Side& side, double x, double y);
-  void Escrever(const std::string& text, double x, double y);
   void DesenharEixos(const Eixos& axes);
   void EixosQuadrante();
   void EixosMargem();

@@ -6,14 +6,7 @@
 namespace clinorama::lesson {
 
 // What the scenes and motions of the lesson share: its functions, the two sides of the point a,
-// and the numbers of pens and pictures.
-
-// DrawStyle and DrawMode of a surface.
-inline constexpr int Solid = 0;
-inline constexpr int Dotted = 2;
-inline constexpr int CopyPen = 13;
-inline constexpr int NotMergePen = 2;
-inline constexpr int InvertPixel = 6;
+// and the numbers of pictures.
 
 // From a point to the corner of the marker that shows it, in user units: half a marker in the
 // scale -1..10, and in the scale -10..10.

@@ -1,8 +1,5 @@
 // The motions of the lesson: a point that tends to a, and semi-secants that turn to their limits.
-//
-// A moving figure is drawn and taken away without a copy of what lies under it. Where it crosses
-// other drawing it leaves marks, as the two modes of the pen join bits: a pixel ends as it was or
-// with the pen's bits added.
+// The marks that a passing figure leaves where it crosses other drawing are wanted.
 
 #include "forms/counted_loop.h"
 #include "lesson/Form9.h"
@@ -14,15 +11,9 @@ using namespace lesson;  // NOLINT(google-build-using-namespace): names of this 
 
 void Form9::EsperarPasso() { Wait(HScroll1.Value); }
 
-// A step of a motion: the figure is drawn, stands for the step, and is taken away. The same pixels
-// must be drawn both times.
 template <class Draw>
 void Form9::PassarFigura(Draw draw) {
-  Picture1.DrawMode = NotMergePen;
-  draw();
-  EsperarPasso();
-  Picture1.DrawMode = InvertPixel;
-  draw();
+  forms::ShowInPassing(Picture1, draw, [this] { EsperarPasso(); });
 }
 
 // The point x of a side slides towards a, X along the graph and f(x) along its axis; at the end
@@ -32,7 +23,7 @@ void Form9::AproximarPonto(const Side& side) {
     const double y = FuncaoF(x);
     MoverPonto(side, x, y);
     PassarFigura([&] {
-      Picture1.DrawStyle = Dotted;
+      Picture1.DrawStyle = forms::Dotted;
       Picture1.Line(x, y, x, 0);
       Picture1.Line(x, y, 0, y);
     });
@@ -62,10 +53,10 @@ void Form9::RodarSemiSecante(const Side& side, DrawLegs drawLegs) {
     CalcularExtremo(x, y, SemiSecantLength);
     MoverPonto(side, x, y);
     PassarFigura([&] {
-      Picture1.DrawStyle = Dotted;
+      Picture1.DrawStyle = forms::Dotted;
       Picture1.Line(x, y, x, 0);
       drawLegs(x, y);
-      Picture1.DrawStyle = Solid;
+      Picture1.DrawStyle = forms::Solid;
       DesenharSemiSecante();
     });
   });
@@ -82,7 +73,7 @@ void Form9::AproximarSemiSecanteDireita() {
            .A = {3.9, 6.5},
            .X = Outside});
   PrepararSemiSecante(RightSide);
-  Picture1.DrawStyle = Solid;
+  Picture1.DrawStyle = forms::Solid;
   DesenharSemiSecante(forms::White);
   Image1(RightSide.Rings.OnGraph).Visible = false;
   RodarSemiSecante(RightSide, [this](double x, double y) {
@@ -95,8 +86,8 @@ void Form9::AproximarSemiSecanteDireita() {
 // The semi-secant of page 11 is erased. The level of X is drawn as far as a, beyond X.
 void Form9::AproximarSemiSecanteEsquerda() {
   CalcularExtremo(LeftSide.Start, FuncaoF(LeftSide.Start), SemiSecantLength);
-  Picture1.DrawMode = CopyPen;
-  Picture1.DrawStyle = Solid;
+  Picture1.DrawMode = forms::CopyPen;
+  Picture1.DrawStyle = forms::Solid;
   DesenharSemiSecante(forms::White);
   RodarSemiSecante(LeftSide, [this](double, double y) { Picture1.Line(0, y, AbcissaA, y); });
 }
@@ -132,7 +123,7 @@ void Form9::MovimentoSemiSecantes() {
       CalcularExtremo(x, half.Function(x), half.Length);
       PassarFigura([this] { DesenharSemiSecante(forms::Blue); });
     });
-    Picture1.DrawMode = CopyPen;
+    Picture1.DrawMode = forms::CopyPen;
     DesenharSemiSecante(forms::Red);
   };
   AbcissaA = 0;

@@ -62,12 +62,6 @@ void Form9::MoverPonto(const Side& side, double x, double y) {
   Mover(side.Moving.OnAxisY, 0, y, QuadrantCorner);
 }
 
-void Form9::Escrever(const std::string& text, double x, double y) {
-  Picture1.CurrentX = x;
-  Picture1.CurrentY = y;
-  Picture1.Print(text);
-}
-
 // Two axes with their arrows. They are drawn in the order told, with the mode of the pen that the
 // page before has left.
 struct Form9::Eixos {
@@ -85,10 +79,10 @@ void Form9::DesenharEixos(const Eixos& axes) {
   Picture1.Scale(axes.Scale.X1, axes.Scale.Y1, axes.Scale.X2, axes.Scale.Y2);
   Picture1.ForeColor = forms::Black;
   Picture1.AutoRedraw = true;
-  Picture1.DrawStyle = Solid;
+  Picture1.DrawStyle = forms::Solid;
   for (const auto& [x1, y1, x2, y2] : axes.Segments) Picture1.Line(x1, y1, x2, y2);
-  Escrever("x", axes.LabelX.X, axes.LabelX.Y);
-  Escrever("y", axes.LabelY.X, axes.LabelY.Y);
+  Picture1.PrintAt(axes.LabelX.X, axes.LabelX.Y, "x");
+  Picture1.PrintAt(axes.LabelY.X, axes.LabelY.Y, "y");
 }
 
 // Axes through the origin, with the first quadrant in view.
@@ -122,16 +116,16 @@ void Form9::EixosMargem() {
 
 // The dotted vertical through a = 0, from a height down to the axis in the margin.
 void Form9::MarcarVertical(double top) {
-  Picture1.DrawStyle = Dotted;
+  Picture1.DrawStyle = forms::Dotted;
   Picture1.Line(0, top, 0, -9);
-  Picture1.DrawStyle = Solid;
+  Picture1.DrawStyle = forms::Solid;
 }
 
 void Form9::Rotular(const LabelPlaces& places) {
   const std::pair<const char*, Point> labels[] = {{"a", places.a},     {"x", places.x},
                                                   {"f(a)", places.fa}, {"f(x)", places.fx},
                                                   {"A", places.A},     {"X", places.X}};
-  for (const auto& [text, place] : labels) Escrever(text, place.X, place.Y);
+  for (const auto& [text, place] : labels) Picture1.PrintAt(place.X, place.Y, text);
 }
 
 void Form9::MarcarPontoA() {
@@ -139,10 +133,10 @@ void Form9::MarcarPontoA() {
   Colocar(0, PointA, y, QuadrantCorner);
   Colocar(9, PointA, 0, QuadrantCorner);
   Colocar(11, 0, y, QuadrantCorner);
-  Picture1.DrawStyle = Dotted;
+  Picture1.DrawStyle = forms::Dotted;
   Picture1.Line(PointA, y, PointA, 0);
   Picture1.Line(0, y, PointA, y);
-  Picture1.DrawStyle = Solid;
+  Picture1.DrawStyle = forms::Solid;
 }
 
 // The moving point at its start. The rings go there too, and are shown by the motions.
@@ -160,10 +154,10 @@ void Form9::MarcarInicio(const Side& side) {
 void Form9::MarcarPontoDireita() {
   MarcarInicio(RightSide);
   const double y = FuncaoF(RightSide.Start);
-  Picture1.DrawStyle = Dotted;
+  Picture1.DrawStyle = forms::Dotted;
   Picture1.Line(RightSide.Start, y, RightSide.Start, 0);
   Picture1.Line(0, y, RightSide.Start, y);
-  Picture1.DrawStyle = Solid;
+  Picture1.DrawStyle = forms::Solid;
 }
 
 void Form9::ExemploUm() { MarcarInicio(LeftSide); }

@@ -70,10 +70,10 @@ void Form9::CenaTangenteDivide() {
   Picture1.Cls();
   Picture1.Scale(-10, 10, 10, -10);
   OcultarMarcadores();
-  Picture1.DrawMode = CopyPen;
+  Picture1.DrawMode = forms::CopyPen;
   DesenharRamo(-8, 8, Cubic);
   Colocar(5, 0, 0, MarginCorner);
-  Escrever("P", -0.4, -0.4);
+  Picture1.PrintAt(-0.4, -0.4, "P");
   DesenharCurva(
       -5, 5, [](double x) { return -2 * x / 3; }, Picture1.ForeColor);
 }
@@ -83,7 +83,7 @@ void Form9::CenaPontosDireita() {
   OcultarMarcadores();
   EixosQuadrante();
   Picture1.ForeColor = forms::Blue;
-  Picture1.DrawMode = CopyPen;
+  Picture1.DrawMode = forms::CopyPen;
   DesenharCurva(1, 8, FuncaoF, Picture1.ForeColor);
   Rotular({.a = {3.9, -0.1},
            .x = {6.9, -0.1},
@@ -100,17 +100,17 @@ void Form9::CenaSemiSecanteDireita() {
   OcultarMarcadores();
   for (const int marker : {5, 1, 12}) Image1(marker).Visible = true;
   PrepararSemiSecante(RightSide);
-  Picture1.DrawStyle = Solid;
+  Picture1.DrawStyle = forms::Solid;
   DesenharSemiSecante();
-  Picture1.DrawStyle = Dotted;
+  Picture1.DrawStyle = forms::Dotted;
   Picture1.Line(AbcissaA, OrdenadaA, AbcissaX, OrdenadaA, forms::Blue);
   Picture1.Line(AbcissaX, OrdenadaX, AbcissaX, OrdenadaA, forms::Red);
 }
 
 // The semi-tangent of either side: it lies where the motion before has left the semi-secant.
 void Form9::SemiTangente() {
-  Picture1.DrawMode = CopyPen;
-  Picture1.DrawStyle = Solid;
+  Picture1.DrawMode = forms::CopyPen;
+  Picture1.DrawStyle = forms::Solid;
   Picture1.DrawWidth = 2;
   DesenharSemiSecante(forms::Red);
   Picture1.DrawWidth = 1;
@@ -121,7 +121,7 @@ void Form9::CenaPontosEsquerda() {
   const double y = FuncaoF(x);
   MarcarPontoA();
   ExemploUm();
-  Picture1.DrawStyle = Dotted;
+  Picture1.DrawStyle = forms::Dotted;
   Picture1.Line(x, y, x, 0);
   Picture1.Line(0, y, x, y);
   Rotular({.a = {3.9, -0.1},
@@ -135,9 +135,9 @@ void Form9::CenaPontosEsquerda() {
 // The legs meet below A here, and below X on the right side.
 void Form9::CenaSemiSecanteEsquerda() {
   PrepararSemiSecante(LeftSide);
-  Picture1.DrawStyle = Solid;
+  Picture1.DrawStyle = forms::Solid;
   DesenharSemiSecante();
-  Picture1.DrawStyle = Dotted;
+  Picture1.DrawStyle = forms::Dotted;
   Picture1.Line(AbcissaA, OrdenadaA, AbcissaA, OrdenadaX, forms::Blue);
   Picture1.Line(AbcissaX, OrdenadaX, AbcissaA, OrdenadaX, forms::Red);
 }
@@ -146,7 +146,7 @@ void Form9::CenaCubica() {
   EixosMargem();
   DesenharRamo(-8, 8, Cubic);
   Colocar(10, 0, 0, MarginCorner);
-  Escrever("a", LabelOfA.X, LabelOfA.Y);
+  Picture1.PrintAt(LabelOfA.X, LabelOfA.Y, "a");
   MarcarVertical(0);
 }
 
@@ -175,7 +175,7 @@ void Form9::CenaDoisTrocos() {
   DesenharRamo(-8, 0, LeftBranch);
   DesenharRamo(0, 8, RightBranch);
   MarcarVertical(9);
-  Escrever("a", LabelOfA.X, LabelOfA.Y);
+  Picture1.PrintAt(LabelOfA.X, LabelOfA.Y, "a");
 }
 
 // A cusp, with the curve closed by dots where it is steepest. The green disc lies over the blue
@@ -189,7 +189,7 @@ void Form9::CenaReversao() {
   Image1(10).Visible = true;
   forms::CountedLoop(-3, -4, -0.1, [this](double y) { Picture1.PSet(0, y, forms::Blue); });
   MarcarVertical(9);
-  Escrever("a", LabelOfA.X, LabelOfA.Y);
+  Picture1.PrintAt(LabelOfA.X, LabelOfA.Y, "a");
 }
 
 // A corner; its semi-tangents lie on the curve itself.
@@ -199,7 +199,7 @@ void Form9::CenaAnguloso() {
   DesenharCurva(-8, 8, Corner, forms::Blue);
   DesenharCurva(-5, 5, Corner, forms::Red);
   MarcarVertical(9);
-  Escrever("a", LabelOfA.X, LabelOfA.Y);
+  Picture1.PrintAt(LabelOfA.X, LabelOfA.Y, "a");
 }
 
 }  // namespace clinorama

@@ -37,12 +37,6 @@ constexpr RadianLabel RadianLabels[] = {
     {"5p/2", 5 * Pi / 2 - 0.6},
 };
 
-void PrintAt(PictureBox& canvas, double x, double y, const std::string& text) {
-  canvas.CurrentX = x;
-  canvas.CurrentY = y;
-  canvas.Print(text);
-}
-
 template <class Mark>
 void ForEachNumber(Mark mark) {
   for (int j = -LastNumber; j <= LastNumber; ++j) mark(j);
@@ -56,8 +50,8 @@ void SetNumberFont(PictureBox& canvas) {
 // Wipes the canvas and draws the axes with their arrow heads; the tip of the horizontal one stands
 // a little beyond the end of its axis.
 void DrawAxes(PictureBox& canvas) {
-  canvas.DrawStyle = 0;
-  canvas.DrawMode = 13;
+  canvas.DrawStyle = forms::Solid;
+  canvas.DrawMode = forms::CopyPen;
   canvas.Cls();
   canvas.Line(-9, 0, 9, 0);
   canvas.Line(0, 9, 0, -9);
@@ -72,15 +66,15 @@ void MarkAbscissa(PictureBox& canvas, double x) { canvas.Line(x, TickHalf, x, -T
 void MarkOrdinate(PictureBox& canvas, double y) { canvas.Line(-TickHalf, y, TickHalf, y); }
 
 void NumberOrdinate(PictureBox& canvas, int j) {
-  if (j != 0) PrintAt(canvas, -0.7, j + 0.3, PrintedNumber(j));
+  if (j != 0) canvas.PrintAt(-0.7, j + 0.3, PrintedNumber(j));
 }
 
 // The letters take the size of the numbers before them.
 void NameAxes(PictureBox& canvas) {
   canvas.Font.Name = "MS Sans Serif";
   canvas.Font.Bold = true;
-  PrintAt(canvas, 9.2, -0.3, "x");
-  PrintAt(canvas, -0.7, 9.7, "y");
+  canvas.PrintAt(9.2, -0.3, "x");
+  canvas.PrintAt(-0.7, 9.7, "y");
 }
 
 void DrawUnits(PictureBox& canvas) {
@@ -89,7 +83,7 @@ void DrawUnits(PictureBox& canvas) {
   SetNumberFont(canvas);
   ForEachNumber([&](int j) {
     MarkAbscissa(canvas, j);
-    if (j != 0) PrintAt(canvas, j - 0.3, -0.4, PrintedNumber(j));
+    if (j != 0) canvas.PrintAt(j - 0.3, -0.4, PrintedNumber(j));
   });
   ForEachNumber([&](int j) {
     MarkOrdinate(canvas, j);
@@ -114,7 +108,7 @@ void DrawRadians(PictureBox& canvas) {
   });
   NameAxes(canvas);
   canvas.Font = {.Name = "symbol", .Size = 9, .Bold = false};
-  for (const RadianLabel& label : RadianLabels) PrintAt(canvas, label.Left, -0.6, label.Text);
+  for (const RadianLabel& label : RadianLabels) canvas.PrintAt(label.Left, -0.6, label.Text);
 }
 
 }  // namespace

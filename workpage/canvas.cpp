@@ -33,12 +33,6 @@ void WalkBothWays(double min, double max, double step, Mark mark) {
   CountedLoop(0, std::floor(min), -step, unlessOrigin);
 }
 
-void PrintAt(PictureBox& surface, double x, double y, const std::string& text) {
-  surface.CurrentX = x;
-  surface.CurrentY = y;
-  surface.Print(text);
-}
-
 }  // namespace
 
 void Form12::DesenharEixos() {
@@ -50,8 +44,8 @@ void Form12::DesenharEixos() {
   onBoth([](PictureBox& surface) {
     surface.ClearPicture();
     surface.ScaleInPixels();
-    surface.DrawMode = 13;
-    surface.DrawStyle = 0;
+    surface.DrawMode = forms::CopyPen;
+    surface.DrawStyle = forms::Solid;
   });
   Picture1.AutoRedraw = true;
   Image1(0).Visible = false;
@@ -82,8 +76,8 @@ void Form12::DesenharEixos() {
   onBoth([this](PictureBox& surface) {
     surface.Font.Name = "MS Sans Serif";
     surface.Font.Bold = true;
-    PrintAt(surface, XMax + MargemX + 2 * PixelX, -5 * PixelY, "x");
-    PrintAt(surface, -12 * PixelX, YMax + MargemY + 9 * PixelY, "y");
+    surface.PrintAt(XMax + MargemX + 2 * PixelX, -5 * PixelY, "x");
+    surface.PrintAt(-12 * PixelX, YMax + MargemY + 9 * PixelY, "y");
   });
 
   if (MarcaX.Value && !EmRadianos) {
@@ -108,7 +102,7 @@ void Form12::DesenharEixos() {
     onBoth(setNumberFont);
     WalkBothWays(XMin, XMax, forms::NumberFrom(PassoX.Text()), [&](double i) {
       onBoth([&](PictureBox& surface) {
-        PrintAt(surface, i - 8 * PixelX, -8 * PixelY, PrintedNumber(i));
+        surface.PrintAt(i - 8 * PixelX, -8 * PixelY, PrintedNumber(i));
       });
     });
   } else if (GradNumX.Value) {
@@ -118,7 +112,7 @@ void Form12::DesenharEixos() {
     onBoth(setNumberFont);
     WalkBothWays(YMin, YMax, forms::NumberFrom(PassoY.Text()), [&](double i) {
       onBoth([&](PictureBox& surface) {
-        PrintAt(surface, -18 * PixelX, i + 5 * PixelY, PrintedNumber(i));
+        surface.PrintAt(-18 * PixelX, i + 5 * PixelY, PrintedNumber(i));
       });
     });
   }
@@ -155,11 +149,11 @@ void Form12::GraduarRadianos() {
   const double top = RadianLabelDepth * PixelY;
   for (const Labels& family : families) {
     const bool negative = family.First < 0;
-    PrintAt(Picture1, family.First - family.FirstOffset * PixelX, top,
-            (negative ? "-" : "") + family.Unit);
+    Picture1.PrintAt(family.First - family.FirstOffset * PixelX, top,
+                     (negative ? "-" : "") + family.Unit);
     int number = family.Number;
     CountedLoop(family.Second, family.End, negative ? -Pi : Pi, [&](double i) {
-      PrintAt(Picture1, i - walkOffset * PixelX, top, PrintedNumber(number) + family.Unit);
+      Picture1.PrintAt(i - walkOffset * PixelX, top, PrintedNumber(number) + family.Unit);
       number += family.NumberStep;
     });
   }

@@ -134,26 +134,24 @@ void Form12::Derivar(const Side& side) {
   x = a + side.Direction * StartDistance;
   evaluate();
 
-  Picture1.DrawStyle = 2;
+  Picture1.DrawStyle = forms::Dotted;
   Ignorar([&] { Picture1.Line(a, 0, a, fa); });
   Ignorar([&] { Picture1.Line(a, fa, 0, fa); });
   Image1(0).Visible = true;
   MoverMarcador(Image1(0), a, fa);
   Image1(1).Visible = true;
   MoverMarcador(Image1(1), x, y);
-  Picture1.DrawStyle = 0;
+  Picture1.DrawStyle = forms::Solid;
 
   forms::CountedLoop(x, a, -side.Direction * WalkStep, [&](double counter) {
     x = counter;
     evaluate();
     findEnd();
-    Picture1.DrawMode = 2;
     MoverMarcador(Image1(1), x, y);
-    drawSemiSecant();
-    showQuotient();
-    Wait(HScroll1.Value);
-    Picture1.DrawMode = 6;
-    drawSemiSecant();
+    forms::ShowInPassing(Picture1, drawSemiSecant, [&] {
+      showQuotient();
+      Wait(HScroll1.Value);
+    });
   });
 
   x = a + side.Direction * LastDistance;
@@ -171,9 +169,9 @@ void Form12::Derivar(const Side& side) {
     side.Value.Caption = last > 0 ? "+ ¥" : "- ¥";
   });
 
-  Picture1.DrawMode = 13;
+  Picture1.DrawMode = forms::CopyPen;
   drawSemiSecant(forms::Red);
-  Picture1.DrawStyle = 0;
+  Picture1.DrawStyle = forms::Solid;
   Image1(1).Visible = false;
   LibertarComandos();
 }
@@ -221,7 +219,7 @@ void Form12::ComRecuperação(Test test) {
     MousePointer = forms::MousePointer::Default;
     Picture1.Visible = true;
     Picture2.Visible = false;
-    Picture1.DrawMode = 13;
+    Picture1.DrawMode = forms::CopyPen;
   }
 }
 

@@ -16,9 +16,9 @@ void Form12::DesenharGráfico_Click() {
   Picture1.Visible = false;
   Picture2.Visible = true;
   Picture1.AutoRedraw = true;
-  Picture1.DrawMode = 13;
+  Picture1.DrawMode = forms::CopyPen;
   Picture2.AutoRedraw = false;
-  Picture2.DrawMode = 13;
+  Picture2.DrawMode = forms::CopyPen;
 
   if (Função1.Text().empty()) {
     forms::MsgBox(

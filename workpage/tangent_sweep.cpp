@@ -85,17 +85,13 @@ void Form12::Calcular_Click() {
     const auto drawTangent = [&] {
       Ignorar([&] { Picture1.Line(left.EndX, left.EndY, right.EndX, right.EndY); });
     };
-    Picture1.DrawMode = 2;
-    drawTangent();
-    Wait(HScroll1.Value);
-    Picture1.DrawMode = 6;
-    drawTangent();
+    forms::ShowInPassing(Picture1, drawTangent, [this] { Wait(HScroll1.Value); });
   });
 
   LibertarComandos();
   Label6.Caption = "";
   Image1(1).Visible = false;
-  Picture1.DrawMode = 13;
+  Picture1.DrawMode = forms::CopyPen;
 }
 
 }  // namespace clinorama
