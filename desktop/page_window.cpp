@@ -86,19 +86,21 @@ void PageWindow::Synchronise(forms::Control& control) {
   }
 }
 
+QWidget* PageWindow::WidgetOf(const forms::Control& control) const {
+  const auto found = views_.find(&control);
+  return found == views_.end() ? nullptr : found->second.Widget;
+}
+
 void PageWindow::ShowDrawing(forms::PictureBox& picture) {
-  const auto found = views_.find(&picture);
-  if (found != views_.end()) static_cast<SurfaceView*>(found->second.Widget)->ShowSoon();
+  if (QWidget* widget = WidgetOf(picture)) static_cast<SurfaceView*>(widget)->ShowSoon();
 }
 
 void PageWindow::ShowDrawingNow(forms::PictureBox& picture) {
-  const auto found = views_.find(&picture);
-  if (found != views_.end()) static_cast<SurfaceView*>(found->second.Widget)->ShowNow();
+  if (QWidget* widget = WidgetOf(picture)) static_cast<SurfaceView*>(widget)->ShowNow();
 }
 
 void PageWindow::Focus(forms::Control& control) {
-  const auto found = views_.find(&control);
-  if (found != views_.end()) found->second.Widget->setFocus();
+  if (QWidget* widget = WidgetOf(control)) widget->setFocus();
 }
 
 void PageWindow::Leave() {

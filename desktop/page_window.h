@@ -37,6 +37,7 @@ class PageWindow : public QWidget {
   void AddMenuBar();
   void AddControls(forms::Container& container, QWidget& parent);
   void SynchronisePage();
+  QWidget* WidgetOf(const forms::Control& control) const;
 
   forms::Page* page_;
   QWidget* client_;

@@ -55,7 +55,7 @@ void Application::BecameActive(Page& page) {
   Run(page, [&page] { page.Form_Activate(); });
 }
 
-void Application::VisibleChanged(Page& page) {
+void Application::ShowOrHide(Page& page) {
   if (page.Visible) {
     host_.Shown(page);
     BecameActive(page);

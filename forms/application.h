@@ -47,7 +47,7 @@ class Application {
 
  private:
   friend class Page;
-  void VisibleChanged(Page& page);
+  void ShowOrHide(Page& page);  // as its Visible says
   void Unload(Page& page);
   void DropUnloaded();
 

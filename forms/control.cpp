@@ -7,24 +7,21 @@
 namespace clinorama::forms {
 
 Control::Control(Container& parent, std::string name, const Rect& rect)
-    : Left(*this, rect.Left),
-      Top(*this, rect.Top),
-      Width(*this, rect.Width),
-      Height(*this, rect.Height),
-      name_(std::move(name)),
-      parent_(&parent),
-      page_(parent.page_) {
+    : Control(&parent, parent.page_, std::move(name), rect) {
   parent.children_.push_back(this);
 }
 
 Control::Control(Page& page, std::string name, const Rect& rect)
+    : Control(nullptr, &page, std::move(name), rect) {}
+
+Control::Control(Container* parent, Page* page, std::string name, const Rect& rect)
     : Left(*this, rect.Left),
       Top(*this, rect.Top),
       Width(*this, rect.Width),
       Height(*this, rect.Height),
       name_(std::move(name)),
-      parent_(nullptr),
-      page_(&page) {}
+      parent_(parent),
+      page_(page) {}
 
 std::string Control::SpokenName() const {
   std::string caption = CaptionText();

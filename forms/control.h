@@ -63,6 +63,8 @@ class Control : public PropertyOwner {
   virtual std::string CaptionText() const { return {}; }
 
  private:
+  Control(Container* parent, Page* page, std::string name, const Rect& rect);
+
   std::string name_;
   Container* parent_;
   Page* page_;

@@ -14,10 +14,9 @@ Page::Page(std::string name, const Rect& clientArea, std::string caption)
 
 void Page::Show() {
   if (Visible) {
-    Application::Current().TheHost().Shown(*this);
-    Application::Current().BecameActive(*this);
+    Application::Current().ShowOrHide(*this);
   } else {
-    Visible = true;
+    Visible = true;  // which comes to the same
   }
 }
 
@@ -43,7 +42,7 @@ void Page::WaitFor(const bool& flag) {
 void Page::PropertyChanged(const PropertyBase& property) {
   if (!loaded_) return;
   if (&property == &Visible) {
-    Application::Current().VisibleChanged(*this);
+    Application::Current().ShowOrHide(*this);
   } else {
     Container::PropertyChanged(property);
   }

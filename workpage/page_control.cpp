@@ -137,8 +137,7 @@ void Form12::MoverMarcador(forms::Image& marker, double x, double y) {
 }
 
 void Form12::ConceitoDerivada_Click() {
-  Visible = false;
-  Unload();
+  UserClose();
   The<Form9>().Show();
 }
 
