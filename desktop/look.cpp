@@ -73,9 +73,7 @@ QFont SurfaceFontFor(const forms::Font& font, double density) {
   chosen.setPixelSize(PixelSize(font, density));
   // Axes are laid out for a symbol font that is narrower than the plain family: its labels stand
   // less than two pixels apart otherwise.
-  if (TextFor(font.Name).compare(QLatin1String("symbol"), Qt::CaseInsensitive) == 0) {
-    chosen.setStretch(QFont::SemiCondensed);
-  }
+  if (forms::IsSymbolFont(font)) chosen.setStretch(QFont::SemiCondensed);
   if (chosen.pixelSize() < SmallestSmoothed) {
     chosen.setBold(false);
     chosen.setHintingPreference(QFont::PreferFullHinting);

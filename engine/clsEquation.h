@@ -35,6 +35,10 @@ class ErroInterpretador : public std::runtime_error {
 // `Module1::CodigoDominio`.
 class clsEquation {
  public:
+  // What `Solution` gives for a point outside the domain; the drawing routines let their bounds
+  // throw it out.
+  static constexpr double ForaDoDominio = 1000.0;
+
   // A flag that is only kept: the trigonometric functions work in radians whatever it says.
   void Graus(bool emGraus);
   bool Graus() const { return EmGraus_; }
@@ -50,8 +54,8 @@ class clsEquation {
   // Removes a variable; a name that isn't there is ignored.
   void VarRemove(std::string_view name);
 
-  // The value of the expression, 1000.0 if the point is outside its domain. Evaluates only if
-  // something has changed since the last `Solve` that raised nothing, and then raises what that
+  // The value of the expression, `ForaDoDominio` if the point is outside its domain. Evaluates only
+  // if something has changed since the last `Solve` that raised nothing, and then raises what that
   // `Solve` raises.
   double Solution() {
     if (Alterada_) {
@@ -73,10 +77,6 @@ class clsEquation {
   }
 
  private:
-  // What `Solution` gives for a point outside the domain; the drawing routines let their bounds
-  // throw it out.
-  static constexpr double ForaDoDominio = 1000.0;
-
   void Interpretar();
 
   bool Alterada_ = false;   // something changed since the last `Solve` that came to its end

@@ -15,17 +15,17 @@ struct Substitution {
 // Only the characters that the pages use of the font: p, and the byte A5 of its encoding.
 constexpr std::array<Substitution, 2> SymbolSigns = {{{"p", "π"}, {"¥", "∞"}}};
 
-bool IsSymbolFont(std::string_view name) {
-  constexpr std::string_view Symbol = "symbol";
-  const auto sameLetter = [](char a, char b) { return (a | 0x20) == b; };
-  return name.size() == Symbol.size() &&
-         std::equal(name.begin(), name.end(), Symbol.begin(), sameLetter);
-}
-
 }  // namespace
 
+bool IsSymbolFont(const Font& font) {
+  constexpr std::string_view Symbol = "symbol";
+  const auto sameLetter = [](char a, char b) { return (a | 0x20) == b; };
+  return font.Name.size() == Symbol.size() &&
+         std::equal(font.Name.begin(), font.Name.end(), Symbol.begin(), sameLetter);
+}
+
 std::string VisibleText(const Font& font, std::string text) {
-  if (!IsSymbolFont(font.Name)) return text;
+  if (!IsSymbolFont(font)) return text;
   for (const auto& [written, shown] : SymbolSigns) {
     for (auto at = text.find(written); at != std::string::npos;
          at = text.find(written, at + shown.size())) {

@@ -12,9 +12,13 @@ struct Font {
   friend bool operator==(const Font&, const Font&) = default;
 };
 
+// Whether it is the font "Symbol", which has signs in the places of letters. The case of the name
+// does not matter.
+bool IsSymbolFont(const Font& font);
+
 // The text as it is to be seen in the font: the characters that pages write for the font "Symbol"
-// ("p", the yen sign) become the signs that this font has in their places (π, ∞). The case of the
-// font's name does not matter. Text in any other font comes back unchanged.
+// ("p", the yen sign) become the signs that this font has in their places (π, ∞). Text in any other
+// font comes back unchanged.
 std::string VisibleText(const Font& font, std::string text);
 
 }  // namespace clinorama::forms

@@ -29,6 +29,8 @@ std::string PrintedNumber(double value) {
   return text;
 }
 
+std::string TwoDigits(int number) { return (number < 10 ? "0" : "") + std::to_string(number); }
+
 double Round(double value, int decimals) {
   const double scale = std::pow(10.0, decimals);
   const double scaled = value * scale;

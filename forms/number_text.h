@@ -15,6 +15,9 @@ std::string NumberText(double value);
 // negative, and a blank behind it.
 std::string PrintedNumber(double value);
 
+// A number from 0 to 99 with two digits, as names of pictures have it: "07".
+std::string TwoDigits(int number);
+
 // The value rounded to a number of decimals, ties to the even neighbour.
 double Round(double value, int decimals);
 

@@ -3,6 +3,7 @@
 #include <memory>
 #include <string>
 
+#include "forms/number_text.h"
 #include "shell/window_frame.h"
 
 namespace clinorama {
@@ -19,11 +20,9 @@ constexpr double PageTop = 120;
 
 std::unique_ptr<forms::Image> MakePage(forms::Page& viewer, const ViewerKind& kind, int page,
                                        const std::string& name) {
-  const std::string number = std::to_string(page);
-  const std::string twoDigits = page < 10 ? "0" + number : number;
   return std::make_unique<forms::Image>(
       viewer, name, forms::Rect{PageLeft, PageTop, kind.PageWidth, kind.PageHeight},
-      kind.Pictures + twoDigits, "Página " + number);
+      kind.Pictures + forms::TwoDigits(page), "Página " + std::to_string(page));
 }
 
 }  // namespace

@@ -11,8 +11,7 @@
 namespace clinorama::tools {
 namespace {
 
-constexpr double Step = 0.001;          // of the difference quotients
-constexpr double OutsideDomain = 1000;  // what Solution gives there
+constexpr double Step = 0.001;  // of the difference quotients
 constexpr int SamplesPerPixel = 8;
 constexpr int Halvings = 40;          // from a sample to the next, until nothing is left between
 constexpr double SmallChange = 1;     // pixels from a sample to the next that need no closer look
@@ -49,7 +48,7 @@ class Function {
       equation_.Var("x", x);
       equation_.Solve();
       const double y = equation_.Solution();
-      if (y == OutsideDomain) return {};
+      if (y == clsEquation::ForaDoDominio) return {};
       return y;
     } catch (const ErroInterpretador& error) {
       if (error.Number() == Overflow || error.Number() == DivisionByZero) return {};

@@ -61,8 +61,7 @@ Outcome Evaluate(const std::string& expression, double x) {
   equation.Var("x", x);
   try {
     equation.Solve();
-    constexpr double OutsideTheDomain = 1000.0;
-    if (equation.Solution() == OutsideTheDomain) return {};
+    if (equation.Solution() == clsEquation::ForaDoDominio) return {};
     return {equation.Solution(), ""};
   } catch (const ErroInterpretador& error) {
     return {{}, error.Description()};
