@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "lesson/Form9.h"
+#include "tests/support/color_at.h"
 #include "tests/support/scripted_host.h"
 
 namespace clinorama::tests {
@@ -71,8 +72,7 @@ class LessonTest : public ApplicationTest {
 
   // The pixel of the kept picture at a point in user units.
   forms::Color PixelAt(double x, double y) const {
-    return page.Picture1.Kept().At(static_cast<int>(page.Picture1.LogicalX(x)),
-                                   static_cast<int>(page.Picture1.LogicalY(y)));
+    return ColorAt(page.Picture1, page.Picture1.Kept(), x, y);
   }
 };
 

@@ -11,6 +11,7 @@
 
 #include "shell/Form2.h"
 #include "shell/Module1.h"
+#include "tests/support/color_at.h"
 #include "tests/support/scripted_host.h"
 #include "workpage/Form12.h"
 
@@ -82,8 +83,7 @@ class WorkPageTest : public ApplicationTest {
 
   // The colour that a raster of the canvas shows at a point of the plane.
   forms::Color ColorAt(const Raster& raster, double x, double y) const {
-    return raster.At(static_cast<int>(page.Picture1.LogicalX(x)),
-                     static_cast<int>(page.Picture1.LogicalY(y)));
+    return tests::ColorAt(page.Picture1, raster, x, y);
   }
 
   void Plot(const std::string& function) {
