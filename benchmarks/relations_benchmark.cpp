@@ -34,8 +34,8 @@ class NullHost final : public forms::Host {
     std::exit(1);
   }
   std::optional<forms::Color> ShowColor(forms::Color /*now*/) override { return std::nullopt; }
-  void Sleep(int /*milliseconds*/) override {}
-  void DoEvents() override {}
+  void Wait(int /*milliseconds*/) override {}
+  void WaitForEvents() override {}
   [[noreturn]] void End() override { std::exit(0); }
 };
 

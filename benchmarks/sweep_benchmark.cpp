@@ -18,9 +18,9 @@ namespace {
 // Counts the steps of a motion, each of which lets events run once.
 class CountingHost : public clinorama::desktop::QtHost {
  public:
-  void DoEvents() override {
+  void Wait(int milliseconds) override {
     ++Steps;
-    QtHost::DoEvents();
+    QtHost::Wait(milliseconds);
   }
   int Steps = 0;
 };

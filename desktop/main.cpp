@@ -1,13 +1,44 @@
 #include <QApplication>
+#include <QFontMetrics>
+#include <cstdio>
+#include <cstdlib>
 
 #include "desktop/look.h"
 #include "desktop/qt_host.h"
 #include "forms/application.h"
 #include "shell/Form2.h"
 
+namespace {
+
+// The program has nothing to save and its handlers may stand deep on the stack, so it ends as it
+// is.
+[[noreturn]] void GiveUp(const char* sentence) {
+  std::fprintf(stderr, "Clinorama: %s\n", sentence);
+  std::_Exit(EXIT_FAILURE);
+}
+
+// The toolkit's own words are for programmers, and in English.
+void TellOfTheDisplay(QtMsgType type, const QMessageLogContext& /*context*/, const QString& text) {
+  const bool started = qApp != nullptr && !QCoreApplication::startingUp();
+  if (started && text.contains(QLatin1String("connection broke"))) {
+    GiveUp("a ligação ao ecrã perdeu-se.");
+  }
+  if (type == QtFatalMsg && !started) {
+    GiveUp("não há ecrã onde abrir as janelas. Inicie o programa num ambiente gráfico.");
+  }
+  if (type == QtFatalMsg) GiveUp(qPrintable(text));
+  if (started) std::fprintf(stderr, "%s\n", qPrintable(text));
+}
+
+}  // namespace
+
 int main(int argc, char* argv[]) {
+  qInstallMessageHandler(TellOfTheDisplay);
   QApplication qt(argc, argv);
   clinorama::desktop::SetLook();
+  if (!QFontMetrics(QApplication::font()).inFont('a')) {
+    GiveUp("não há tipos de letra instalados. Instale, por exemplo, o pacote fonts-dejavu-core.");
+  }
   clinorama::desktop::QtHost host;
   clinorama::forms::Application application(host);
   clinorama::forms::The<clinorama::Form2>().Show();

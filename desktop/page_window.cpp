@@ -107,19 +107,19 @@ void PageWindow::Leave() {
   page_ = nullptr;
   views_.clear();
   hide();
-  for (QObject* child : findChildren<QObject*>()) {
-    child->blockSignals(true);
-    QCoreApplication::removePostedEvents(child);
+  const auto cutOff = [this](QObject* object) {
+    object->blockSignals(true);
+    object->installEventFilter(this);
+  };
+  for (QWidget* widget : findChildren<QWidget*>()) {
+    if (widget->isWindow()) widget->close();  // an open menu
   }
+  for (QObject* object : findChildren<QObject*>()) cutOff(object);
+  cutOff(this);
 }
 
-bool PageWindow::event(QEvent* event) {
-  const bool handled = QWidget::event(event);
-  if (event->type() == QEvent::WindowActivate && page_ != nullptr) {
-    forms::Application::Current().BecameActive(*page_);
-  }
-  return handled;
-}
+// The filter stands on the window and on all in it as soon as its page is gone.
+bool PageWindow::eventFilter(QObject* /*watched*/, QEvent* /*event*/) { return true; }
 
 // The page decides what closing means; where it unloads itself the window is hidden by that.
 void PageWindow::closeEvent(QCloseEvent* event) {

@@ -26,15 +26,17 @@ class PageWindow : public QWidget {
   void ShowDrawing(forms::PictureBox& picture);
   void ShowDrawingNow(forms::PictureBox& picture);
   void Focus(forms::Control& control);
-  // Hides the window for good and cuts it off from its page.
+  // Hides the window for good and cuts it off from its page: neither the window nor anything in it
+  // takes an event or sends a signal from then on.
   void Leave();
+  // The page that the window shows; null after Leave.
+  forms::Page* Page() const { return page_; }
 
  protected:
-  bool event(QEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
 
  private:
-  void AddMenuBar();
   void AddControls(forms::Container& container, QWidget& parent);
   void SynchronisePage();
   QWidget* WidgetOf(const forms::Control& control) const;

@@ -7,14 +7,14 @@
 #include <QImage>
 #include <QMessageBox>
 #include <QPainter>
-#include <QPointer>
+#include <QSettings>
 #include <QThread>
+#include <QWindow>
 #include <cmath>
 #include <cstdlib>
 
 #include "desktop/look.h"
 #include "desktop/page_window.h"
-#include "desktop/speed_bar.h"
 #include "forms/application.h"
 #include "forms/picture_box.h"
 
@@ -23,20 +23,29 @@ namespace {
 
 // Showing more pictures in a second than a screen does would only slow the drawing down.
 constexpr qint64 MillisecondsToPicture = 16;
+// How often it is tried to drop the windows that have left their pages.
+constexpr int MillisecondsToDropping = 500;
 
 }  // namespace
 
-QtHost::QtHost() { sinceFlush_.start(); }
-
-QtHost::~QtHost() {
-  for (const auto& [page, window] : windows_) delete window;
+QtHost::QtHost() {
+  // The toolkit's colour chooser keeps the user's own colours in a settings file, which other
+  // programs read and write too. Below this place no file can be.
+  for (const auto scope : {QSettings::UserScope, QSettings::SystemScope}) {
+    QSettings::setPath(QSettings::NativeFormat, scope, QStringLiteral("/dev/null"));
+  }
+  sinceFlush_.start();
+  dropping_.setInterval(MillisecondsToDropping);
+  dropping_.callOnTimeout([this] { DropLeftWindows(); });
 }
+
+QtHost::~QtHost() = default;
 
 double QtHost::Density() const { return qApp->devicePixelRatio(); }
 
 void QtHost::Shown(forms::Page& page) {
-  PageWindow*& window = windows_[&page];
-  if (window == nullptr) window = new PageWindow(page);
+  std::unique_ptr<PageWindow>& window = windows_[&page];
+  if (window == nullptr) window = std::make_unique<PageWindow>(page);
   window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
   window->show();
   window->raise();
@@ -47,19 +56,26 @@ void QtHost::Hidden(forms::Page& page) {
   if (PageWindow* window = WindowOf(page)) window->hide();
 }
 
-// The window may be in the middle of handling an event, so it lives on, hidden and deaf, until
-// the event loop is reached.
 void QtHost::Unloaded(forms::Page& page) {
-  PageWindow* window = WindowOf(page);
-  if (window == nullptr) return;
-  windows_.erase(&page);
-  window->Leave();
-  window->deleteLater();
+  const auto found = windows_.find(&page);
+  if (found == windows_.end()) return;
+  found->second->Leave();
+  left_.push_back(std::move(found->second));
+  windows_.erase(found);
+  dropping_.start();
+}
+
+// A timer calls this, so no widget is in the middle of an event but those below on the stack whose
+// handlers wait, or that run an event loop of their own, as an open dialog does.
+void QtHost::DropLeftWindows() {
+  if (!forms::Application::Current().AtRest() || QThread::currentThread()->loopLevel() > 1) return;
+  left_.clear();
+  dropping_.stop();
 }
 
 PageWindow* QtHost::WindowOf(forms::Control& control) {
   const auto found = windows_.find(&control.OwnerPage());
-  return found == windows_.end() ? nullptr : found->second;
+  return found == windows_.end() ? nullptr : found->second.get();
 }
 
 void QtHost::Changed(forms::Control& control) {
@@ -91,34 +107,49 @@ void QtHost::SetFocus(forms::Control& control) {
   if (PageWindow* window = WindowOf(control)) window->Focus(control);
 }
 
+// Before the window of the page whose handler asks for it, but no child of it: the window may go
+// while the dialog is on the stack.
+void QtHost::StandBeforeThePage(QDialog& dialog) {
+  dialog.setWindowModality(Qt::ApplicationModal);
+  dialog.setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint);
+  forms::Page* page = forms::Application::Current().Running();
+  const PageWindow* window = page == nullptr ? nullptr : WindowOf(*page);
+  if (window == nullptr || !window->isVisible()) return;
+  dialog.winId();  // makes the window that windowHandle gives
+  dialog.windowHandle()->setTransientParent(window->windowHandle());
+  dialog.adjustSize();
+  dialog.move(window->geometry().center() - dialog.rect().center());
+}
+
 void QtHost::MsgBox(const std::string& text, int style, const std::string& title) {
-  QMessageBox box(QApplication::activeWindow());
+  QMessageBox box;
   box.setWindowTitle(TextFor(title));
   box.setTextFormat(Qt::PlainText);
   box.setText(TextFor(text));
   if (style == forms::InformationBox) box.setIcon(QMessageBox::Information);
   box.setStandardButtons(QMessageBox::Ok);
+  StandBeforeThePage(box);
   box.exec();
 }
 
 std::optional<forms::Color> QtHost::ShowColor(forms::Color now) {
   // The toolkit's own chooser, as a desktop's would not speak Portuguese.
-  const QColor color = QColorDialog::getColor(ColorFor(now), QApplication::activeWindow(), {},
-                                              QColorDialog::DontUseNativeDialog);
-  if (!color.isValid()) return std::nullopt;
-  return ColorFrom(color);
+  QColorDialog chooser(ColorFor(now));
+  chooser.setOption(QColorDialog::DontUseNativeDialog);
+  StandBeforeThePage(chooser);
+  if (chooser.exec() != QDialog::Accepted) return std::nullopt;
+  return ColorFrom(chooser.selectedColor());
 }
 
-void QtHost::Sleep(int milliseconds) {
-  if (milliseconds > 0) QThread::msleep(static_cast<unsigned long>(milliseconds));
-}
-
-void QtHost::DoEvents() {
+void QtHost::Wait(int milliseconds) {
   QCoreApplication::processEvents();
-  while (SpeedBar::AnyHeld()) {
-    QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-  }
+  if (milliseconds <= 0) return;
+  bool over = false;
+  QTimer::singleShot(milliseconds, Qt::PreciseTimer, qApp, [&over] { over = true; });
+  while (!over) WaitForEvents();
 }
+
+void QtHost::WaitForEvents() { QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents); }
 
 // Handlers may stand many levels deep on the stack, so nothing is unwound; the program has
 // nothing to save.

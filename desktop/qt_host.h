@@ -1,13 +1,17 @@
 #pragma once
 
 #include <QElapsedTimer>
+#include <QTimer>
 #include <map>
+#include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
+#include "desktop/activation.h"
 #include "forms/host.h"
 
-class QWidget;
+class QDialog;
 
 namespace clinorama::desktop {
 
@@ -31,15 +35,20 @@ class QtHost : public forms::Host {
   void SetFocus(forms::Control& control) override;
   void MsgBox(const std::string& text, int style, const std::string& title) override;
   std::optional<forms::Color> ShowColor(forms::Color now) override;
-  void Sleep(int milliseconds) override;
-  // Does not return while the speed bar is held down.
-  void DoEvents() override;
+  void Wait(int milliseconds) override;
+  void WaitForEvents() override;
   [[noreturn]] void End() override;
 
  private:
   PageWindow* WindowOf(forms::Control& control);
+  void StandBeforeThePage(QDialog& dialog);
+  void DropLeftWindows();
 
-  std::map<forms::Page*, PageWindow*> windows_;
+  std::map<forms::Page*, std::unique_ptr<PageWindow>> windows_;
+  // Those whose page is gone. One of their widgets may be in the middle of an event.
+  std::vector<std::unique_ptr<PageWindow>> left_;
+  QTimer dropping_;
+  Activation activation_;
   QElapsedTimer sinceFlush_;
 };
 

@@ -5,6 +5,7 @@
 #include <QTimer>
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace clinorama::desktop {
 namespace {
@@ -12,8 +13,6 @@ namespace {
 // The repetition of a held key can arrive as a release and a press a moment apart; only a release
 // that lasts is one.
 constexpr int KeyReleaseMilliseconds = 60;
-
-int heldBars = 0;
 
 bool MovesTheBar(int key) {
   constexpr std::array Keys = {Qt::Key_Left, Qt::Key_Right, Qt::Key_Up,     Qt::Key_Down,
@@ -23,8 +22,8 @@ bool MovesTheBar(int key) {
 
 }  // namespace
 
-SpeedBar::SpeedBar(QWidget* parent)
-    : QScrollBar(Qt::Horizontal, parent), release_(new QTimer(this)) {
+SpeedBar::SpeedBar(std::function<void(bool held)> onHold, QWidget* parent)
+    : QScrollBar(Qt::Horizontal, parent), onHold_(std::move(onHold)), release_(new QTimer(this)) {
   setFocusPolicy(Qt::StrongFocus);
   setInvertedControls(false);  // the arrow to the right moves the thumb to the right
   release_->setSingleShot(true);
@@ -32,15 +31,11 @@ SpeedBar::SpeedBar(QWidget* parent)
   QObject::connect(release_, &QTimer::timeout, this, [this] { Hold(false); });
 }
 
-SpeedBar::~SpeedBar() { Hold(false); }
-
-bool SpeedBar::AnyHeld() { return heldBars > 0; }
-
 void SpeedBar::Hold(bool held) {
   release_->stop();
   if (held == held_) return;
   held_ = held;
-  heldBars += held ? 1 : -1;
+  onHold_(held);
 }
 
 void SpeedBar::HoldKey(int key, bool pressed) {

@@ -1,20 +1,17 @@
 #pragma once
 
-#include <QElapsedTimer>
 #include <QScrollBar>
+#include <functional>
 
 class QTimer;
 
 namespace clinorama::desktop {
 
-// A slider with arrows at its ends that knows whether the user is holding it: by the mouse on the
-// thumb, the groove or an arrow, or by a key. Motions stand still while it is held.
+// A slider with arrows at its ends that tells when the user holds it, by the mouse on the thumb,
+// the groove or an arrow, or by a key, and when the user lets go of it.
 class SpeedBar : public QScrollBar {
  public:
-  explicit SpeedBar(QWidget* parent);
-  ~SpeedBar() override;
-
-  static bool AnyHeld();
+  SpeedBar(std::function<void(bool held)> onHold, QWidget* parent);
 
  protected:
   bool event(QEvent* event) override;
@@ -23,6 +20,7 @@ class SpeedBar : public QScrollBar {
   void Hold(bool held);
   void HoldKey(int key, bool pressed);
 
+  std::function<void(bool held)> onHold_;
   bool held_ = false;
   QTimer* release_;
 };

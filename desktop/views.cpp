@@ -59,6 +59,15 @@ class ButtonWidget : public QToolButton {
   }
 };
 
+// An option whose mark only the page sets: a click is told to the page and changes nothing here.
+class OptionWidget : public QRadioButton {
+ public:
+  using QRadioButton::QRadioButton;
+
+ protected:
+  void nextCheckState() override {}
+};
+
 // A box drawn with its caption set into its upper edge, so that it measures what its control says.
 class FrameWidget : public QGroupBox {
  public:
@@ -125,6 +134,7 @@ View ViewOf(forms::Label& label, QWidget& parent) {
 
 View ViewOf(forms::TextBox& box, QWidget& parent) {
   auto* widget = new QLineEdit(&parent);
+  widget->setDragEnabled(false);  // a drag runs an event loop of its own, inside the widget
   QObject::connect(widget, &QLineEdit::textEdited, widget,
                    [&box](const QString& text) { box.UserType(text.toStdString()); });
   return {widget, [&box, widget] {
@@ -158,17 +168,13 @@ View ViewOf(forms::CommandButton& button, QWidget& parent) {
 // The page keeps the rule of one mark at most, so the widget's own rule is off: it would not let
 // the last mark go.
 View ViewOf(forms::OptionButton& option, QWidget& parent) {
-  auto* widget = new QRadioButton(&parent);
+  auto* widget = new OptionWidget(&parent);
   widget->setAutoExclusive(false);
-  const auto show = [&option, widget] {
-    widget->setText(TextFor(option.Caption));
-    widget->setChecked(option.Value);
-  };
-  QObject::connect(widget, &QRadioButton::clicked, widget, [&option, show] {
-    if (option.Value) show();
-    option.UserClick();
-  });
-  return {widget, show};
+  QObject::connect(widget, &QRadioButton::clicked, widget, [&option] { option.UserClick(); });
+  return {widget, [&option, widget] {
+            widget->setText(TextFor(option.Caption));
+            widget->setChecked(option.Value);
+          }};
 }
 
 View ViewOf(forms::CheckBox& box, QWidget& parent) {
@@ -200,7 +206,7 @@ View ViewOf(forms::Image& image, QWidget& parent) {
 // The widget counts steps from the left end, whichever way the control's values run: its own
 // inversion would leave its arrows and groove moving the thumb the wrong way.
 View ViewOf(forms::HScrollBar& bar, QWidget& parent) {
-  auto* widget = new SpeedBar(&parent);
+  auto* widget = new SpeedBar([&bar](bool held) { bar.UserHold(held); }, &parent);
   const int sign = bar.Min <= bar.Max ? 1 : -1;
   widget->setRange(0, std::abs(bar.Max - bar.Min));
   widget->setPageStep(1);

@@ -2,6 +2,7 @@
 
 #include <cstdlib>
 #include <exception>
+#include <utility>
 
 #include "forms/page_ended.h"
 
@@ -10,16 +11,18 @@ namespace {
 
 Application* current = nullptr;
 
-// Counts a handler of a page for as long as it runs.
-class HandlerCount {
+// Puts a value into a variable for as long as a handler runs.
+template <class T>
+class ForNow {
  public:
-  explicit HandlerCount(int& count) : count_(count) { ++count_; }
-  ~HandlerCount() { --count_; }
-  HandlerCount(const HandlerCount&) = delete;
-  HandlerCount& operator=(const HandlerCount&) = delete;
+  ForNow(T& variable, T value) : variable_(variable), before_(std::exchange(variable, value)) {}
+  ~ForNow() { variable_ = before_; }
+  ForNow(const ForNow&) = delete;
+  ForNow& operator=(const ForNow&) = delete;
 
  private:
-  int& count_;
+  T& variable_;
+  T before_;
 };
 
 }  // namespace
@@ -37,7 +40,9 @@ Application& Application::Current() { return *current; }
 void Application::Run(Page& page, const std::function<void()>& handler) {
   if (!page.loaded_) return;
   {
-    const HandlerCount counted(page.handlers_);
+    const ForNow ofPage(page.handlers_, page.handlers_ + 1);
+    const ForNow ofAll(depth_, depth_ + 1);
+    const ForNow<Page*> running(running_, &page);
     try {
       handler();
     } catch (const PageEnded&) {

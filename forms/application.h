@@ -40,12 +40,23 @@ class Application {
   // out is shown in a message box and ends the handler only.
   void Run(Page& page, const std::function<void()>& handler);
 
+  // The page whose handler runs; null where none does. Of nested handlers it is the innermost.
+  Page* Running() const { return running_; }
+  // Whether no handler is on the stack.
+  bool AtRest() const { return depth_ == 0; }
+  // Whether the stack has room for another handler, see Host::GreatestDepth.
+  bool HasRoom() const { return depth_ < host_.GreatestDepth(); }
+
+  // Whether the user holds any speed bar. Motions stand still meanwhile.
+  bool BarHeld() const { return heldBars_ > 0; }
+
   // Tells that a page has come to the front, by Show or by the user. Only when it was not the
   // active one already does it run Form_Activate: coming back from a message box or from another
   // program's window is no activation.
   void BecameActive(Page& page);
 
  private:
+  friend class HScrollBar;
   friend class Page;
   void ShowOrHide(Page& page);  // as its Visible says
   void Unload(Page& page);
@@ -55,6 +66,9 @@ class Application {
   std::map<std::type_index, std::unique_ptr<Page>> pages_;
   std::vector<std::unique_ptr<Page>> unloaded_;  // still with handlers on the stack
   Page* active_ = nullptr;
+  Page* running_ = nullptr;
+  int depth_ = 0;  // handlers on the stack, of all pages
+  int heldBars_ = 0;
 };
 
 // The one instance of a kind of page: The<Form12>().Show().

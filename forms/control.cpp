@@ -36,6 +36,8 @@ bool Control::Reachable() const {
   return Visible && Enabled && (parent_ == nullptr || parent_->Reachable());
 }
 
+bool Control::Clickable() const { return Reachable() && Application::Current().HasRoom(); }
+
 void Control::SetFocus() { Application::Current().TheHost().SetFocus(*this); }
 
 void Control::PropertyChanged(const PropertyBase& /*property*/) {

@@ -50,6 +50,9 @@ class Control : public PropertyOwner {
   std::string SpokenName() const;
   // Whether a user can reach the control: it and all its containers are enabled and visible.
   bool Reachable() const;
+  // Whether a click of the user may start a handler: the control can be reached, and the stack has
+  // room for another handler.
+  bool Clickable() const;
   // Gives the control the keyboard.
   void SetFocus();
 

@@ -14,11 +14,11 @@ Label::Label(Container& parent, std::string name, const Rect& rect, std::string 
     : Control(parent, std::move(name), rect), Caption(*this, std::move(caption)) {}
 
 void Label::UserClick() {
-  if (Reachable()) Fire(Click);
+  if (Clickable()) Fire(Click);
 }
 
 void Label::UserDoubleClick() {
-  if (Reachable()) Fire(DblClick);
+  if (Clickable()) Fire(DblClick);
 }
 
 TextBox::TextBox(Container& parent, std::string name, const Rect& rect, std::string text,
@@ -45,7 +45,7 @@ CommandButton::CommandButton(Container& parent, std::string name, const Rect& re
 }
 
 void CommandButton::UserClick() {
-  if (Reachable()) Fire(Click);
+  if (Clickable()) Fire(Click);
 }
 
 OptionButton::OptionButton(Container& parent, std::string name, const Rect& rect,
@@ -55,7 +55,7 @@ OptionButton::OptionButton(Container& parent, std::string name, const Rect& rect
 }
 
 void OptionButton::UserClick() {
-  if (!Reachable() || Value) return;
+  if (!Clickable() || Value) return;
   Value = true;
   Fire(Click);
 }
@@ -104,6 +104,14 @@ void HScrollBar::UserScroll(int value) {
   if (Reachable()) Value = std::clamp(value, std::min(Min, Max), std::max(Min, Max));
 }
 
+HScrollBar::~HScrollBar() { UserHold(false); }
+
+void HScrollBar::UserHold(bool held) {
+  if (held == held_) return;
+  held_ = held;
+  Application::Current().heldBars_ += held ? 1 : -1;
+}
+
 Menu::Menu(Page& page, std::string name, std::string caption)
     : Name(std::move(name)), Caption(std::move(caption)), page_(page) {
   page.menuBar_.push_back(this);
@@ -115,7 +123,7 @@ Menu::Menu(Menu& parent, std::string name, std::string caption)
 }
 
 void Menu::UserClick() {
-  if (page_.Reachable()) Application::Current().Run(page_, [this] { Click(); });
+  if (page_.Clickable()) Application::Current().Run(page_, [this] { Click(); });
 }
 
 void CommonDialog::ShowColor() {

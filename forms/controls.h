@@ -11,7 +11,8 @@
 namespace clinorama::forms {
 
 // The functions named User... are what a host calls when the user acts on a control. They check
-// that the user can reach it, so that a scripted host cannot press what a real user could not.
+// that the user can reach it, so that a scripted host cannot press what a real user could not. A
+// click is ignored where handlers are nested too deeply.
 
 enum class Alignment { Left = 0, Right = 1, Center = 2 };
 
@@ -125,12 +126,20 @@ class HScrollBar : public Control {
  public:
   HScrollBar(Container& parent, std::string name, const Rect& rect, int min, int max, int value,
              std::string spokenName);
+  ~HScrollBar() override;
 
   const int Min;
   const int Max;
   Property<int> Value;
 
   void UserScroll(int value);
+  // The user presses the bar by mouse or key, or lets go of it; a host lets go of a bar that is
+  // hidden, disabled or loses the keyboard. Motions stand still while a bar is held.
+  void UserHold(bool held);
+  bool Held() const { return held_; }
+
+ private:
+  bool held_ = false;
 };
 
 // An item of a menu bar or menu: it holds others or does something.

@@ -12,6 +12,10 @@ class Control;
 class Page;
 class PictureBox;
 
+// Each motion that is started inside the wait of another takes some of the stack. Nobody clicks so
+// often by hand, and 256 KiB hold so many handlers.
+inline constexpr int GreatestDepth = 200;
+
 // What the pages need of the machine they run on. The desktop implements it with windows, the
 // tests with a script. Calls about controls of a page that has no window yet may come in and are
 // to be ignored: a window is built from the state of its page.
@@ -45,9 +49,14 @@ class Host {
   // Let the user choose a colour, starting from the present one; nothing when cancelled.
   virtual std::optional<Color> ShowColor(Color now) = 0;
 
-  virtual void Sleep(int milliseconds) = 0;
-  // Deliver what is pending; handlers run nested.
-  virtual void DoEvents() = 0;
+  // Deliver events for so many milliseconds, from the first moment, and at least once; handlers run
+  // nested.
+  virtual void Wait(int milliseconds) = 0;
+  // Wait until there is an event, however long, and deliver what there is; handlers run nested.
+  virtual void WaitForEvents() = 0;
+  // How many handlers may be on the stack before further clicks are ignored; at least 2. A host
+  // with a small stack sets fewer.
+  virtual int GreatestDepth() const { return forms::GreatestDepth; }
   // End the program at once, from any depth of handlers.
   [[noreturn]] virtual void End() = 0;
 };

@@ -28,16 +28,18 @@ void Page::UserClose() {
 }
 
 void Page::Wait(int milliseconds) {
-  Host& host = Application::Current().TheHost();
-  host.Sleep(milliseconds);
-  host.DoEvents();
+  Application& application = Application::Current();
+  application.TheHost().Wait(milliseconds);
+  while (loaded_ && application.BarHeld()) application.TheHost().WaitForEvents();
   if (!loaded_) throw PageEnded{};
 }
 
 void Page::WaitFor(const bool& flag) {
-  constexpr int StepMilliseconds = 50;
-  while (!flag) Wait(StepMilliseconds);
+  while (loaded_ && !flag) Application::Current().TheHost().WaitForEvents();
+  if (!loaded_) throw PageEnded{};
 }
+
+bool Page::CanPause() const { return Application::Current().HasRoom(); }
 
 void Page::PropertyChanged(const PropertyBase& property) {
   if (!loaded_) return;

@@ -39,11 +39,14 @@ class Page : public Container {
   virtual void Form_Activate() {}
 
  protected:
-  // The wait of a motion's step: sleeps, then lets pending events run, nested. When the page was
-  // unloaded meanwhile this does not return: the handler that waits is unwound.
+  // The wait of a motion's step: lets events run, nested, for that time, and for as long as the
+  // user holds a speed bar. When the page was unloaded meanwhile this does not return: the handler
+  // that waits is unwound.
   void Wait(int milliseconds);
-  // The wait of a pause: waits in short steps until a handler that runs meanwhile sets the flag.
+  // The wait of a pause: lets events run, nested, until one of their handlers sets the flag.
   void WaitFor(const bool& flag);
+  // Whether a pause can end again: the handler that ends it needs room on the stack as well.
+  bool CanPause() const;
 
   void PropertyChanged(const PropertyBase& property) override;
   std::string CaptionText() const override { return Caption(); }

@@ -159,6 +159,7 @@ void Form9::Anterior_Click() {
 // A pause holds the motion because this handler runs nested in the motion's wait and does not
 // return.
 void Form9::Parar_Click() {
+  if (!CanPause()) return;
   Continuar.Visible = true;
   Continuar.Enabled = true;
   Parar.Visible = false;

@@ -69,8 +69,7 @@ class Camera : public desktop::QtHost {
     click();
   }
 
-  void Sleep(int /*milliseconds*/) override {}
-  void DoEvents() override {
+  void Wait(int /*milliseconds*/) override {
     if (--stepsLeft_ == 0) take_();
   }
 

@@ -92,7 +92,7 @@ TEST_F(Pages, UnwindTheirHandlersWhenClosedWhileThoseWait) {
   Play();
   EXPECT_EQ(log, (Log{"third left", "second left", "first left"}));
   EXPECT_EQ(host.Steps, 7);
-  EXPECT_EQ(host.SleptMilliseconds, 35);
+  EXPECT_EQ(host.WaitedMilliseconds, 35);
   EXPECT_EQ(SamplePage::Alive, 0);
 }
 
@@ -127,6 +127,42 @@ TEST_F(Pages, ShowAFailureThatAHandlerLetsOutAndEndThatHandlerOnly) {
   EXPECT_EQ(host.MessageBoxes,
             (std::vector<MessageBox>{{forms::TypeMismatch().Description(), 0, "Clinorama"}}));
   EXPECT_EQ(log, (Log{"first finished", "first left"}));
+}
+
+TEST_F(Pages, HoldTheirMotionsWhileASpeedBarIsHeld) {
+  forms::HScrollBar& bar = The<SamplePage>().HScroll1;
+  host.AtStep(3, [&] { bar.UserHold(true), bar.UserHold(true); });
+  host.AtStep(8, [&] { EXPECT_EQ(host.WaitedMilliseconds, 3 * 5); });
+  host.AtStep(9, [&] { bar.UserHold(false); });
+  Play();
+  EXPECT_EQ(host.Steps, 10 + 6);
+  // A page that is closed under a held bar neither waits for the bar nor leaves it held.
+  host.AtStep(20, [&] { bar.UserHold(true), The<SamplePage>().UserClose(); });
+  The<SamplePage>().Command1.UserClick();
+  EXPECT_FALSE(application.BarHeld());
+  EXPECT_EQ(log, (Log{"first finished", "first left", "first left"}));
+}
+
+TEST_F(Pages, IgnoreClicksWhereHandlersAreNestedTooDeeply) {
+  host.Depth = 5;
+  auto& page = The<SamplePage>();
+  bool resumed = false;
+  page.Command2.Click = [&] {
+    if (page.CanPause()) page.WaitFor(resumed);
+    log.push_back("second left");
+  };
+  page.OptionA.Click = [&] { page.Command1.UserClick(); };
+  host.AtStep(1, [&] { page.OptionA.UserClick(); });
+  host.AtStep(2, [&] { page.Command2.UserClick(); });
+  host.AtStep(3, [&] { page.Command2.UserClick(), page.Sair.UserClick(), resumed = true; });
+  page.Sair.Click = [&] { log.push_back("at the greatest depth"); };
+  Play();
+  EXPECT_EQ(log, (Log{"second left", "at the greatest depth", "second left", "first finished",
+                      "first left", "first finished", "first left"}));
+  host.Depth = 0;
+  page.OptionB.UserClick(), page.Command1.UserClick(), page.Sair.UserClick();
+  EXPECT_FALSE(page.OptionB.Value);
+  EXPECT_EQ(log.size(), 7U);
 }
 
 TEST_F(Pages, AreActivatedWhenTheyBecomeTheActivePage) {

@@ -13,7 +13,9 @@ class SamplePage : public forms::Page {
   SamplePage() : Page("SamplePage", {0, 0, 9000, 6000}, "Exemplo") { ++Alive; }
   ~SamplePage() override { --Alive; }
 
+  using Page::CanPause;
   using Page::Wait;
+  using Page::WaitFor;
   void Form_Activate() override { ++Activations; }
 
   static inline int Alive = 0;

@@ -44,7 +44,7 @@ class LessonTest : public ApplicationTest {
   void GoTo(int number) {
     for (int i = std::stoi(page.Label3.Caption()); i < number; ++i) page.Seguinte.UserClick();
     host.Steps = 0;
-    host.SleptMilliseconds = 0;
+    host.WaitedMilliseconds = 0;
     Record();
   }
 

@@ -23,7 +23,7 @@ TEST_F(LessonTest, StopsBesideThePointAndNeverAtIt) {
     GoTo(number - 1);
     page.Seguinte.UserClick();
     EXPECT_EQ(host.Steps, steps) << number;
-    EXPECT_EQ(host.SleptMilliseconds, 5 * steps);
+    EXPECT_EQ(host.WaitedMilliseconds, 5 * steps);
     if (lastX == 0) continue;
     auto verticals = Drawn(Kind::Line);
     std::erase_if(verticals, [](const auto& line) { return line.Y2 != 0; });

@@ -32,19 +32,20 @@ struct MessageBox {
 };
 
 // A machine without windows and without a clock: what the user does is a script, and what the
-// program did is kept for the test to read. A step is one call of DoEvents; steps are counted from
-// 1 since the host was made, and those of nested handlers count too.
+// program did is kept for the test to read. A step is one wait; steps are counted from 1 since the
+// host was made, and those of nested handlers count too.
 class ScriptedHost final : public forms::Host {
  public:
   // More steps than any motion has: beyond them a handler is taken to wait for ever.
   static constexpr int LongestWait = 100'000;
 
   double DeviceDensity = 1;
+  int Depth = forms::GreatestDepth;
   std::optional<forms::Color> ChosenColor;  // what the user chooses; nothing: cancels
   std::function<void()> DuringMessageBox;   // runs while a box is open
   std::function<void()> EachStep;           // runs in every step, before the step's own actions
 
-  long long SleptMilliseconds = 0;
+  long long WaitedMilliseconds = 0;
   int Steps = 0;
   std::vector<MessageBox> MessageBoxes;
   std::vector<std::string> PageCalls;  // such as "Shown Form12", "Hidden ...", "Unloaded ..."
@@ -85,10 +86,14 @@ class ScriptedHost final : public forms::Host {
     ColorsOffered.push_back(now);
     return ChosenColor;
   }
-  void Sleep(int milliseconds) override { SleptMilliseconds += milliseconds; }
-  void DoEvents() override {
+  int GreatestDepth() const override { return Depth; }
+  void Wait(int milliseconds) override {
+    WaitedMilliseconds += milliseconds;
+    WaitForEvents();
+  }
+  void WaitForEvents() override {
     if (++Steps > LongestWait) {
-      ADD_FAILURE() << "A handler waits for ever: DoEvents was called " << Steps << " times.";
+      ADD_FAILURE() << "A handler waits for ever: it waited " << Steps << " times.";
       throw WaitedForever{};
     }
     const int step = Steps;  // nested steps count it on

@@ -249,7 +249,7 @@ TEST_F(LateralDerivative, ReadsTheSpeedAtEachStep) {
   host.AtStep(3, [this] { page.HScroll1.UserScroll(10); });
   host.AtStep(5, [this] { page.HScroll1.UserScroll(0); });
   left.Option.UserClick();
-  EXPECT_EQ(host.SleptMilliseconds, 3 * 5 + 2 * 10);
+  EXPECT_EQ(host.WaitedMilliseconds, 3 * 5 + 2 * 10);
 }
 
 TEST_F(LateralDerivative, LocksTheCommandsAndNothingElse) {

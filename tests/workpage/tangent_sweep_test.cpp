@@ -44,13 +44,13 @@ TEST_F(TangentSweep, ShowsTheSlopeInEachPassWhateverFails) {
     SCOPED_TRACE(function);
     Plot(function);
     host.MessageBoxes.clear();
-    host.SleptMilliseconds = 0;
+    host.WaitedMilliseconds = 0;
     host.Steps = 0;
     page.HScroll1.UserScroll(1);
     std::vector<std::string> shown;
     host.EachStep = [&] { shown.push_back(page.Label6.Caption); };
     page.Calcular.UserClick();
-    EXPECT_EQ(host.SleptMilliseconds, Passes);
+    EXPECT_EQ(host.WaitedMilliseconds, Passes);
     EXPECT_TRUE(host.MessageBoxes.empty());
     EXPECT_EQ(LockedCommands(), 0);
     EXPECT_EQ(page.Label6.Caption, "");
