@@ -2,10 +2,10 @@
 
 #include <utility>
 
-#include "engine/failure.h"
+#include "base/Module1.h"
+#include "base/failure.h"
 #include "engine/text.h"
 #include "engine/tokeniser.h"
-#include "shell/Module1.h"
 
 namespace clinorama {
 
@@ -13,14 +13,14 @@ namespace {
 
 // The one place where failures of the engine become errors of the interpreter. What a user can do
 // something about keeps its number; anything else means that the expression is no good.
-[[noreturn]] void RaiseError(const engine::Failure& failure) {
-  const bool own = failure.number >= engine::WrongParentheses;
-  if (own || failure.number == engine::InvalidArgument || failure.number == engine::Overflow ||
-      failure.number == engine::DivisionByZero) {
-    throw ErroInterpretador(failure.number, failure.description);
+[[noreturn]] void RaiseError(const base::Failure& failure) {
+  const int number = failure.Number();
+  const bool own = number >= base::WrongParentheses;
+  if (own || number == base::InvalidArgument || number == base::Overflow ||
+      number == base::DivisionByZero) {
+    throw ErroInterpretador(number, failure.Description());
   }
-  throw ErroInterpretador(engine::InvalidExpression,
-                          engine::DescriptionOf(engine::InvalidExpression));
+  throw ErroInterpretador(base::InvalidExpression);
 }
 
 }  // namespace
@@ -57,7 +57,7 @@ void clsEquation::Solve() {
     ErroDominio_ = avaliacao.erroDominio;
     Resultado_ = ErroDominio_ ? Module1::CodigoDominio : avaliacao.resultado;
     Alterada_ = false;
-  } catch (const engine::Failure& failure) {
+  } catch (const base::Failure& failure) {
     RaiseError(failure);
   }
 }
@@ -67,7 +67,7 @@ void clsEquation::Solve() {
 void clsEquation::Interpretar() {
   avaliador_.Prepare(engine::Interpretar(Expressao_), Variaveis_);
   if (avaliador_.Empty()) {  // no text was ever set, or one without a single token
-    engine::Raise(engine::IndexOutOfRange);
+    base::Raise(base::IndexOutOfRange);
   }
   Analisada_ = true;
 }

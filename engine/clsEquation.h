@@ -1,9 +1,9 @@
 #pragma once
 
-#include <stdexcept>
 #include <string>
 #include <string_view>
 
+#include "base/failure.h"
 #include "engine/evaluator.h"
 #include "engine/variables.h"
 
@@ -13,17 +13,10 @@ namespace clinorama {
 // undefined function, 1102 undefined variable, 1103 invalid expression, 1104 function without
 // argument; 5 invalid argument, 6 overflow, 11 division by zero. The description is what the user
 // reads, in UTF-8.
-class ErroInterpretador : public std::runtime_error {
+class ErroInterpretador : public base::Failure {
  public:
-  ErroInterpretador(int number, const std::string& description)
-      : std::runtime_error(description), number_(number) {}
-
-  int Number() const { return number_; }
+  using Failure::Failure;
   std::string Source() const { return "Interpretador"; }
-  std::string Description() const { return what(); }
-
- private:
-  int number_;
 };
 
 // The expression interpreter: holds one expression in some variables, most often `x`, and gives

@@ -3,9 +3,11 @@
 #include <algorithm>
 #include <string>
 
-#include "engine/checked.h"
+#include "base/checked.h"
 
 namespace clinorama::engine {
+
+using namespace base;
 
 // Brings the cells to where the programme has come to, without calculating anything again.
 class Avaliador::Repeticao final : public Executante {
@@ -95,17 +97,12 @@ Avaliacao Avaliador::Walk(std::size_t done, std::size_t first, const Variables& 
 }
 
 void Avaliador::RaiseAbout(int number, std::int32_t position) const {
-  const auto token = [&] { return simbolos_[static_cast<std::size_t>(position) - 1].text; };
-  switch (number) {
-    case UndefinedFunction:
-      Raise(number, "Função não definida: " + token() + ")");
-    case UndefinedVariable:
-      Raise(number, "Variável não definida: " + token());
-    case NoArgument:
-      Raise(number, "Argumento inválido na expressão: " + token() + ")");
-    default:
-      Raise(number);
+  std::string description = Failure(number).Description();
+  if (number == UndefinedFunction || number == UndefinedVariable || number == NoArgument) {
+    const Simbolo& token = simbolos_[static_cast<std::size_t>(position) - 1];
+    description += token.text + (token.kind == TokenKind::Function ? ")" : "");
   }
+  throw Failure(number, description);
 }
 
 }  // namespace clinorama::engine

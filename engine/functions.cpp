@@ -6,9 +6,11 @@
 #include <iterator>
 #include <random>
 
-#include "engine/checked.h"
+#include "base/checked.h"
 
 namespace clinorama::engine {
+
+using namespace base;
 
 namespace {
 

@@ -4,10 +4,12 @@
 #include <cstddef>
 #include <iterator>
 
-#include "engine/checked.h"
-#include "shell/Module1.h"
+#include "base/Module1.h"
+#include "base/checked.h"
 
 namespace clinorama::engine {
+
+using namespace base;
 
 namespace {
 

@@ -4,9 +4,11 @@
 #include <limits>
 #include <string>
 
-#include "engine/failure.h"
+#include "base/failure.h"
 
 namespace clinorama::engine {
+
+using namespace base;
 
 NumeralReading ReadNumeral(std::string_view text) {
   std::string digits;

@@ -3,11 +3,13 @@
 
 #include <utility>
 
+#include "base/failure.h"
 #include "engine/evaluator.h"
-#include "engine/failure.h"
 #include "engine/numeral.h"
 
 namespace clinorama::engine {
+
+using namespace base;
 
 namespace {
 

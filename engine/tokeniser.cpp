@@ -5,10 +5,12 @@
 #include <limits>
 #include <utility>
 
-#include "engine/failure.h"
+#include "base/failure.h"
 #include "engine/text.h"
 
 namespace clinorama::engine {
+
+using namespace base;
 
 namespace {
 

@@ -3,9 +3,11 @@
 #include <algorithm>
 #include <utility>
 
-#include "engine/failure.h"
+#include "base/failure.h"
 
 namespace clinorama::engine {
+
+using namespace base;
 
 Passeio::Passeio(std::vector<Celula> celulas, std::vector<Visita> visitas)
     : initial_(std::move(celulas)), celulas_(initial_), visitas_(std::move(visitas)) {}

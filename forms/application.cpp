@@ -1,9 +1,9 @@
 #include "forms/application.h"
 
 #include <cstdlib>
-#include <exception>
 #include <utility>
 
+#include "base/failure.h"
 #include "forms/page_ended.h"
 
 namespace clinorama::forms {
@@ -47,8 +47,8 @@ void Application::Run(Page& page, const std::function<void()>& handler) {
       handler();
     } catch (const PageEnded&) {
       // The page of this handler is gone, and the handler with it.
-    } catch (const std::exception& failure) {
-      MsgBox(failure.what());
+    } catch (const base::Failure& failure) {
+      MsgBox(failure.Description());
     }
   }
   DropUnloaded();

@@ -37,7 +37,7 @@ class Application {
   }
 
   // Runs a handler of a page, unless the page has been unloaded. A failure that the handler lets
-  // out is shown in a message box and ends the handler only.
+  // out is shown in a message box and ends the handler only; any other exception passes through.
   void Run(Page& page, const std::function<void()>& handler);
 
   // The page whose handler runs; null where none does. Of nested handlers it is the innermost.

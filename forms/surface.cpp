@@ -5,7 +5,7 @@
 #include <limits>
 #include <utility>
 
-#include "forms/failure.h"
+#include "base/failure.h"
 #include "forms/units.h"
 
 namespace clinorama::forms {
@@ -17,7 +17,7 @@ constexpr int DotLength = 2;
 // Coordinates are stored as 32-bit reals.
 double Reduced(double coordinate) {
   constexpr auto Largest = static_cast<double>(std::numeric_limits<float>::max());
-  if (!(std::abs(coordinate) <= Largest)) throw Overflow();
+  if (!(std::abs(coordinate) <= Largest)) base::Raise(base::Overflow);
   return static_cast<double>(static_cast<float>(coordinate));
 }
 

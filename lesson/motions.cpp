@@ -1,7 +1,7 @@
 // The motions of the lesson: a point that tends to a, and semi-secants that turn to their limits.
 // The marks that a passing figure leaves where it crosses other drawing are wanted.
 
-#include "forms/counted_loop.h"
+#include "base/counted_loop.h"
 #include "lesson/Form9.h"
 #include "lesson/figures.h"
 
@@ -19,7 +19,7 @@ void Form9::PassarFigura(Draw draw) {
 // The point x of a side slides towards a, X along the graph and f(x) along its axis; at the end
 // they go back to their start, for the next page.
 void Form9::AproximarPonto(const Side& side) {
-  forms::CountedLoop(side.Start, PointA, side.Step, [&](double x) {
+  base::CountedLoop(side.Start, PointA, side.Step, [&](double x) {
     const double y = FuncaoF(x);
     MoverPonto(side, x, y);
     PassarFigura([&] {
@@ -48,7 +48,7 @@ void Form9::AproximarPontoEsquerda() {
 // its limit position it is drawn once more than it is taken away, and stays.
 template <class DrawLegs>
 void Form9::RodarSemiSecante(const Side& side, DrawLegs drawLegs) {
-  forms::CountedLoop(side.Start, PointA, side.Step, [&](double x) {
+  base::CountedLoop(side.Start, PointA, side.Step, [&](double x) {
     const double y = FuncaoF(x);
     CalcularExtremo(x, y, SemiSecantLength);
     MoverPonto(side, x, y);
@@ -119,7 +119,7 @@ void Form9::MovimentoSemiSecantes() {
 
   const Member& member = RowOfPage(Members, PaginaActiva);
   const auto turn = [&](const HalfMotion& half, double start, double step) {
-    forms::CountedLoop(start, 0, step, [&](double x) {
+    base::CountedLoop(start, 0, step, [&](double x) {
       CalcularExtremo(x, half.Function(x), half.Length);
       PassarFigura([this] { DesenharSemiSecante(forms::Blue); });
     });

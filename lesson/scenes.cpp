@@ -3,7 +3,7 @@
 #include <cmath>
 #include <vector>
 
-#include "forms/counted_loop.h"
+#include "base/counted_loop.h"
 #include "lesson/Form9.h"
 #include "lesson/figures.h"
 
@@ -29,7 +29,7 @@ void Form9::DesenharCurva(double from, double to, Function f, forms::Color color
 
 template <class Function, class Accepts>
 void Form9::DesenharCurva(double from, double to, Function f, forms::Color color, Accepts accepts) {
-  forms::CountedLoop(from, to, CurveStep, [&](double x) {
+  base::CountedLoop(from, to, CurveStep, [&](double x) {
     const double y = f(x);
     if (accepts(y)) Picture1.PSet(x, y, color);
   });
@@ -187,7 +187,7 @@ void Form9::CenaReversao() {
   DesenharCurva(-8, 8, Cusp, forms::Blue);
   Image1(10).Move(-GreenCornerLeft, Cusp(0) + MarginCorner);
   Image1(10).Visible = true;
-  forms::CountedLoop(-3, -4, -0.1, [this](double y) { Picture1.PSet(0, y, forms::Blue); });
+  base::CountedLoop(-3, -4, -0.1, [this](double y) { Picture1.PSet(0, y, forms::Blue); });
   MarcarVertical(9);
   Picture1.PrintAt(LabelOfA.X, LabelOfA.Y, "a");
 }

@@ -3,8 +3,8 @@
 
 #include <string>
 
+#include "base/number_text.h"
 #include "forms/application.h"
-#include "forms/number_text.h"
 #include "lesson/Form9.h"
 #include "shell/manual_menu.h"
 #include "workpage/Form12.h"
@@ -95,7 +95,7 @@ Form9::Form9() : Page("Form9", {0, 690, 15345, 10605}, "CLINORAMA") {
 
 std::unique_ptr<forms::Image> Form9::NovoTexto(int index, const std::string& name) {
   constexpr forms::Rect Place = {9600, 60, 5589, 9317};
-  const std::string picture = index > LastPage ? "" : "lesson/pagina_" + forms::TwoDigits(index);
+  const std::string picture = index > LastPage ? "" : "lesson/pagina_" + base::TwoDigits(index);
   return std::make_unique<forms::Image>(*this, name, Place, picture,
                                         "Texto da página " + std::to_string(index));
 }

@@ -2,9 +2,7 @@
 // failure. It runs from beginning to end without letting an event in; the user watches the points
 // arrive on the live canvas.
 
-#include <exception>
-#include <string>
-
+#include "base/failure.h"
 #include "forms/application.h"
 #include "relations/operations.h"
 
@@ -33,9 +31,9 @@ void Form13::Executar(const Operation& operation) {
   }
   try {
     Traçar(operation);
-  } catch (const std::exception& failure) {
+  } catch (const base::Failure& failure) {
     // The points drawn so far stay, with the live canvas in front.
-    forms::MsgBox(std::string("Erro:\n\n") + failure.what(), manners.FailureBox.Style,
+    forms::MsgBox("Erro:\n\n" + failure.Description(), manners.FailureBox.Style,
                   manners.FailureBox.Title);
     MousePointer = forms::MousePointer::Default;
     Função1.SetFocus();

@@ -4,14 +4,14 @@
 
 #include <string>
 
-#include "forms/counted_loop.h"
-#include "forms/number_text.h"
+#include "base/counted_loop.h"
+#include "base/number_text.h"
 #include "relations/Form13.h"
 
 namespace clinorama {
 
+using base::PrintedNumber;
 using forms::PictureBox;
-using forms::PrintedNumber;
 
 namespace {
 
@@ -96,7 +96,7 @@ void DrawUnits(PictureBox& canvas) {
 void DrawRadians(PictureBox& canvas) {
   DrawAxes(canvas);
   // The counter passes 3π by rounding, so the last mark is that of 5π/2.
-  forms::CountedLoop(-5 * Pi / 2, 3 * Pi, Pi / 2, [&](double t) { MarkAbscissa(canvas, t); });
+  base::CountedLoop(-5 * Pi / 2, 3 * Pi, Pi / 2, [&](double t) { MarkAbscissa(canvas, t); });
   ForEachNumber([&](int j) { MarkOrdinate(canvas, j); });
   SetNumberFont(canvas);
   ForEachNumber([&](int j) {

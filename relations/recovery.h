@@ -1,6 +1,6 @@
 #pragma once
 
-#include "forms/failure.h"
+#include "base/failure.h"
 
 namespace clinorama::relations {
 
@@ -36,10 +36,10 @@ class Recovery {
         run();
         break;
       case Convention::Ignore:
-        forms::Ignorar(run);
+        base::Ignorar(run);
         break;
       case Convention::SkipSilently:
-        forms::Ignorar(run);
+        base::Ignorar(run);
         if (!done) pontoValido_ = false;
         break;
     }

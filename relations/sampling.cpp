@@ -3,13 +3,13 @@
 #include <cstddef>
 #include <vector>
 
-#include "engine/checked.h"
-#include "forms/counted_loop.h"
-#include "forms/failure.h"
+#include "base/checked.h"
+#include "base/counted_loop.h"
+#include "base/failure.h"
 
 namespace clinorama::relations {
 
-using forms::CountedLoop;
+using base::CountedLoop;
 
 namespace {
 
@@ -19,7 +19,7 @@ constexpr double FirstAbscissa = -8.001;  // of the value before all derivative 
 
 // The quotient of the differences as they come out, not of the nominal step.
 double Quotient(double yb, double ya, double xb, double xa) {
-  return engine::Guarded((yb - ya) / (xb - xa));
+  return base::Guarded((yb - ya) / (xb - xa));
 }
 
 // One value for each sample of a walk, counted from 0. A cell holds nothing at first, and nothing
@@ -27,7 +27,7 @@ double Quotient(double yb, double ya, double xb, double xa) {
 class Cells {
  public:
   double& operator()(int index) {
-    if (index < 0 || index > LastIndex) throw forms::Failure(9, "Índice fora dos limites.");
+    if (index < 0 || index > LastIndex) base::Raise(base::IndexOutOfRange);
     return values_[static_cast<std::size_t>(index)];
   }
 
@@ -144,7 +144,7 @@ void Chords(Sampler& f, const Range& range, const Take& take) {
     f.Evaluate(x2, y2);
     const double xm = x1 + (x2 - x1) / 2;
     f.Evaluate(xm, ym);
-    f.Recovery.Statement([&] { yc = engine::Guarded(y1 + ((y2 - y1) * (xm - x1)) / (x2 - x1)); });
+    f.Recovery.Statement([&] { yc = base::Guarded(y1 + ((y2 - y1) * (xm - x1)) / (x2 - x1)); });
     take({.X = x1, .Value = ym, .Reference = yc});
   });
 }

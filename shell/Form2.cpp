@@ -1,8 +1,8 @@
 #include "shell/Form2.h"
 
+#include "base/Module1.h"
 #include "forms/application.h"
 #include "lesson/Form9.h"
-#include "shell/Module1.h"
 #include "shell/manual_menu.h"
 #include "shell/viewers.h"
 #include "workpage/Form12.h"

@@ -3,8 +3,8 @@
 #include <array>
 #include <string>
 
+#include "base/Module1.h"
 #include "forms/application.h"
-#include "shell/Module1.h"
 #include "shell/window_frame.h"
 #include "workpage/Form12.h"
 

@@ -3,7 +3,7 @@
 #include <memory>
 #include <string>
 
-#include "forms/number_text.h"
+#include "base/number_text.h"
 #include "shell/window_frame.h"
 
 namespace clinorama {
@@ -22,7 +22,7 @@ std::unique_ptr<forms::Image> MakePage(forms::Page& viewer, const ViewerKind& ki
                                        const std::string& name) {
   return std::make_unique<forms::Image>(
       viewer, name, forms::Rect{PageLeft, PageTop, kind.PageWidth, kind.PageHeight},
-      kind.Pictures + forms::TwoDigits(page), "Página " + std::to_string(page));
+      kind.Pictures + base::TwoDigits(page), "Página " + std::to_string(page));
 }
 
 }  // namespace

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/Module1.h"
+#include "base/Module1.h"
 #include "shell/viewer.h"
 
 // The four viewers of the manual.

@@ -7,7 +7,7 @@
 #include <stdexcept>
 #include <string_view>
 
-#include "forms/number_text.h"
+#include "base/number_text.h"
 #include "tools/picture.h"
 
 namespace clinorama::tools {
@@ -102,8 +102,7 @@ std::vector<Mark> MarksOf(const Interval& interval, const Graduation& graduation
     if (i == 0) continue;
     Mark mark = {.Value = i * step, .Number = {}};
     if (i % every == 0) {
-      mark.Number =
-          graduation.InPi ? HalvesOfPi(i) : forms::NumberText(forms::Round(mark.Value, 6));
+      mark.Number = graduation.InPi ? HalvesOfPi(i) : base::NumberText(base::Round(mark.Value, 6));
     }
     marks.push_back(mark);
   }

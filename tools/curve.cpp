@@ -6,6 +6,7 @@
 #include <optional>
 #include <utility>
 
+#include "base/failure.h"
 #include "engine/clsEquation.h"
 
 namespace clinorama::tools {
@@ -42,8 +43,6 @@ class Function {
   }
 
   std::optional<double> Value(double x) {
-    constexpr int Overflow = 6;
-    constexpr int DivisionByZero = 11;
     try {
       equation_.Var("x", x);
       equation_.Solve();
@@ -51,7 +50,7 @@ class Function {
       if (y == clsEquation::ForaDoDominio) return {};
       return y;
     } catch (const ErroInterpretador& error) {
-      if (error.Number() == Overflow || error.Number() == DivisionByZero) return {};
+      if (error.Number() == base::Overflow || error.Number() == base::DivisionByZero) return {};
       throw;
     }
   }

@@ -4,16 +4,16 @@
 #include <cmath>
 #include <string>
 
+#include "base/counted_loop.h"
+#include "base/number_text.h"
 #include "forms/application.h"
-#include "forms/counted_loop.h"
-#include "forms/number_text.h"
 #include "workpage/Form12.h"
 
 namespace clinorama {
 
-using forms::CountedLoop;
+using base::CountedLoop;
+using base::PrintedNumber;
 using forms::PictureBox;
-using forms::PrintedNumber;
 
 namespace {
 
@@ -81,7 +81,7 @@ void Form12::DesenharEixos() {
   });
 
   if (MarcaX.Value && !EmRadianos) {
-    WalkBothWays(XMin, XMax, forms::NumberFrom(PassoX.Text()), [&](double i) {
+    WalkBothWays(XMin, XMax, base::NumberFrom(PassoX.Text()), [&](double i) {
       onBoth(
           [&](PictureBox& surface) { surface.Line(i, -TickHalf * PixelY, i, TickHalf * PixelY); });
     });
@@ -89,7 +89,7 @@ void Form12::DesenharEixos() {
     MarcarRadianos();
   }
   if (MarcaY.Value) {
-    WalkBothWays(YMin, YMax, forms::NumberFrom(PassoY.Text()), [&](double i) {
+    WalkBothWays(YMin, YMax, base::NumberFrom(PassoY.Text()), [&](double i) {
       onBoth(
           [&](PictureBox& surface) { surface.Line(-TickHalf * PixelX, i, TickHalf * PixelX, i); });
     });
@@ -100,7 +100,7 @@ void Form12::DesenharEixos() {
   };
   if (GradNumX.Value && !EmRadianos) {
     onBoth(setNumberFont);
-    WalkBothWays(XMin, XMax, forms::NumberFrom(PassoX.Text()), [&](double i) {
+    WalkBothWays(XMin, XMax, base::NumberFrom(PassoX.Text()), [&](double i) {
       onBoth([&](PictureBox& surface) {
         surface.PrintAt(i - 8 * PixelX, -8 * PixelY, PrintedNumber(i));
       });
@@ -110,7 +110,7 @@ void Form12::DesenharEixos() {
   }
   if (GradNumY.Value) {
     onBoth(setNumberFont);
-    WalkBothWays(YMin, YMax, forms::NumberFrom(PassoY.Text()), [&](double i) {
+    WalkBothWays(YMin, YMax, base::NumberFrom(PassoY.Text()), [&](double i) {
       onBoth([&](PictureBox& surface) {
         surface.PrintAt(-18 * PixelX, i + 5 * PixelY, PrintedNumber(i));
       });

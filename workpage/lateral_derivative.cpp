@@ -4,18 +4,18 @@
 #include <cmath>
 #include <string>
 
-#include "engine/checked.h"
+#include "base/Module1.h"
+#include "base/checked.h"
+#include "base/counted_loop.h"
+#include "base/failure.h"
+#include "base/number_text.h"
 #include "engine/clsEquation.h"
 #include "forms/application.h"
-#include "forms/counted_loop.h"
-#include "forms/failure.h"
-#include "forms/number_text.h"
-#include "shell/Module1.h"
 #include "workpage/Form12.h"
 
 namespace clinorama {
 
-using forms::Ignorar;
+using base::Ignorar;
 
 namespace {
 
@@ -114,15 +114,15 @@ void Form12::Derivar(const Side& side) {
   double endY = 0;
   const auto evaluate = [&] { Ignorar([&] { y = ValueAt(equation, x); }); };
   const auto findEnd = [&] {
-    using namespace engine;
+    using namespace base;
     Ignorar(
         [&] { d = Sqrt(Add(Multiply(x - a, x - a), Multiply(Subtract(y, fa), Subtract(y, fa)))); });
     Ignorar([&] { endX = a + Divide(Multiply(x - a, Length), d); });
     Ignorar([&] { endY = Add(fa, Divide(Multiply(Subtract(y, fa), Length), d)); });
   };
-  const auto quotient = [&] { return engine::Divide(engine::Subtract(endY, fa), endX - a); };
+  const auto quotient = [&] { return base::Divide(base::Subtract(endY, fa), endX - a); };
   const auto showQuotient = [&] {
-    Ignorar([&] { side.Value.Caption = forms::NumberText(forms::Round(quotient(), 2)); });
+    Ignorar([&] { side.Value.Caption = base::NumberText(base::Round(quotient(), 2)); });
   };
   const auto drawSemiSecant = [&](auto... colour) {
     Ignorar([&] { Picture1.Line(a, fa, endX, endY, colour...); });
@@ -143,7 +143,7 @@ void Form12::Derivar(const Side& side) {
   MoverMarcador(Image1(1), x, y);
   Picture1.DrawStyle = forms::Solid;
 
-  forms::CountedLoop(x, a, -side.Direction * WalkStep, [&](double counter) {
+  base::CountedLoop(x, a, -side.Direction * WalkStep, [&](double counter) {
     x = counter;
     evaluate();
     findEnd();
@@ -160,7 +160,7 @@ void Form12::Derivar(const Side& side) {
   if (side.ComparesRoundedQuotient) showQuotient();
   Ignorar([&] {
     const double last =
-        side.ComparesRoundedQuotient ? forms::NumberFrom(side.Value.Caption()) : quotient();
+        side.ComparesRoundedQuotient ? base::NumberFrom(side.Value.Caption()) : quotient();
     if (std::abs(last) <= Infinite) {
       showQuotient();
       return;
@@ -215,7 +215,7 @@ void Form12::ComRecuperação(Test test) {
   try {
     clsEquation equation;
     test(equation);
-  } catch (const ErroInterpretador&) {
+  } catch (const base::Failure&) {
     MousePointer = forms::MousePointer::Default;
     Picture1.Visible = true;
     Picture2.Visible = false;

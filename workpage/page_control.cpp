@@ -3,12 +3,12 @@
 
 #include <initializer_list>
 
+#include "base/Module1.h"
+#include "base/failure.h"
 #include "forms/application.h"
-#include "forms/failure.h"
 #include "lesson/Form9.h"
 #include "relations/Form13.h"
 #include "shell/Form5.h"
-#include "shell/Module1.h"
 #include "shell/manual_menu.h"
 #include "workpage/Form12.h"
 
@@ -133,8 +133,7 @@ void Form12::Retomar(forms::CommandButton& stop, forms::CommandButton& resume) {
 // Puts a marker's middle on a point of the canvas. A point too far away leaves it where it was.
 void Form12::MoverMarcador(forms::Image& marker, double x, double y) {
   constexpr double MarginsToCorner = 0.6;
-  forms::Ignorar(
-      [&] { marker.Move(x - MarginsToCorner * MargemX, y + MarginsToCorner * MargemY); });
+  base::Ignorar([&] { marker.Move(x - MarginsToCorner * MargemX, y + MarginsToCorner * MargemY); });
 }
 
 void Form12::ConceitoDerivada_Click() {

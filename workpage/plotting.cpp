@@ -1,8 +1,9 @@
 // The graph of the work page: a dense cloud of single points, which nothing joins.
 
+#include "base/counted_loop.h"
+#include "base/failure.h"
 #include "engine/clsEquation.h"
 #include "forms/application.h"
-#include "forms/counted_loop.h"
 #include "workpage/Form12.h"
 
 namespace clinorama {
@@ -31,7 +32,7 @@ void Form12::DesenharGráfico_Click() {
     clsEquation equation;
     MousePointer = forms::MousePointer::Hourglass;
     equation.Equation(Função1.Text());
-    forms::CountedLoop(From, To, Step, [&](double x) {
+    base::CountedLoop(From, To, Step, [&](double x) {
       equation.Var("x", x);
       equation.Solve();
       const double y = equation.Solution();
@@ -41,7 +42,7 @@ void Form12::DesenharGráfico_Click() {
       Picture2.PSet(x, y, CommonDialog1.Color);
       Picture2.Refresh();
     });
-  } catch (const ErroInterpretador& error) {
+  } catch (const base::Failure& error) {
     // The points drawn so far stay, with the live surface in front.
     MousePointer = forms::MousePointer::Default;
     GraficoDesenhado = true;

@@ -1,16 +1,16 @@
 // The tangent that runs along the whole graph, with its slope.
 
-#include "engine/checked.h"
+#include "base/checked.h"
+#include "base/counted_loop.h"
+#include "base/failure.h"
+#include "base/number_text.h"
 #include "engine/clsEquation.h"
 #include "forms/application.h"
-#include "forms/counted_loop.h"
-#include "forms/failure.h"
-#include "forms/number_text.h"
 #include "workpage/Form12.h"
 
 namespace clinorama {
 
-using forms::Ignorar;
+using base::Ignorar;
 
 namespace {
 
@@ -31,7 +31,7 @@ struct HalfTangent {
 
   // Each value that cannot be had stays as it was.
   void Follow(double x, double y) {
-    using namespace engine;
+    using namespace base;
     Ignorar([&] {
       const double height = Subtract(y, NeighbourY);
       Distance = Sqrt(Add(Multiply(x - NeighbourX, x - NeighbourX), Multiply(height, height)));
@@ -66,7 +66,7 @@ void Form12::Calcular_Click() {
   double y = 0;
   HalfTangent left;
   HalfTangent right;
-  forms::CountedLoop(From, To, Step, [&](double x) {
+  base::CountedLoop(From, To, Step, [&](double x) {
     equation.Equation(Função1.Text());
     evaluate(x, y);
     left.NeighbourX = x - NeighbourDistance;
@@ -79,8 +79,8 @@ void Form12::Calcular_Click() {
     MoverMarcador(Image1(1), x, y);
     Ignorar([&] {
       const double slope =
-          engine::Divide(engine::Subtract(right.EndY, left.EndY), right.EndX - left.EndX);
-      Label6.Caption = forms::NumberText(forms::Round(slope, 3));
+          base::Divide(base::Subtract(right.EndY, left.EndY), right.EndX - left.EndX);
+      Label6.Caption = base::NumberText(base::Round(slope, 3));
     });
     const auto drawTangent = [&] {
       Ignorar([&] { Picture1.Line(left.EndX, left.EndY, right.EndX, right.EndY); });

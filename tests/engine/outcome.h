@@ -4,8 +4,8 @@
 
 #include <string>
 
+#include "base/Module1.h"
 #include "engine/clsEquation.h"
-#include "shell/Module1.h"
 
 namespace clinorama::tests {
 

@@ -5,8 +5,9 @@
 #include <string>
 #include <vector>
 
-#include "engine/failure.h"
+#include "base/failure.h"
 #include "engine/text.h"
+#include "tests/support/failure_of.h"
 
 namespace clinorama::tests {
 namespace {
@@ -68,15 +69,6 @@ TEST(Tokeniser, TakesTextsApartAndOrdersTheVisits) {
   }
 }
 
-int FailureNumber(const std::string& text) {
-  try {
-    Interpretar(text);
-  } catch (const engine::Failure& failure) {
-    return failure.number;
-  }
-  return 0;
-}
-
 std::string Repeated(const std::string& part, int times) {
   std::string text;
   for (int i = 0; i < times; ++i) {
@@ -93,22 +85,22 @@ TEST(Tokeniser, RejectsOnlyAWrongCountAndWhatItsCountersCannotHold) {
     std::string text;
     int failure;
   } rows[] = {
-      {"open", "(x", engine::WrongParentheses},
-      {"close", "x)", engine::WrongParentheses},
+      {"open", "(x", base::WrongParentheses},
+      {"close", "x)", base::WrongParentheses},
       {"longest text", Repeated("1", 32767), 0},
-      {"too long", Repeated("1", 32768), engine::Overflow},
+      {"too long", Repeated("1", 32768), base::Overflow},
       {"a skipped character counts once, however many bytes it has", Repeated("é", 32767), 0},
-      {"too long with skipped ones", Repeated("é", 32768), engine::Overflow},
-      {"too long before the count", Repeated(" ", 32768) + "(", engine::Overflow},
+      {"too long with skipped ones", Repeated("é", 32768), base::Overflow},
+      {"too long before the count", Repeated(" ", 32768) + "(", base::Overflow},
       {"most tokens", Repeated("2x+", 8191) + "2x", 0},
-      {"too many tokens", Repeated("2x+", 8192), engine::Overflow},
+      {"too many tokens", Repeated("2x+", 8192), base::Overflow},
       {"deepest", Nested(4680), 0},
-      {"too deep", Nested(4681), engine::Overflow},
+      {"too deep", Nested(4681), base::Overflow},
       {"deepest below", Repeated(")", 4681) + Repeated("(", 4681), 0},
-      {"too deep below", Repeated(")", 4682) + Repeated("(", 4682), engine::Overflow},
+      {"too deep below", Repeated(")", 4682) + Repeated("(", 4682), base::Overflow},
   };
   for (const auto& row : rows) {
-    EXPECT_EQ(FailureNumber(row.text), row.failure) << row.name;
+    EXPECT_EQ(FailureOf([&] { Interpretar(row.text); }), row.failure) << row.name;
   }
 }
 

@@ -139,5 +139,17 @@ TEST_F(Controls, LoseWhatASurfaceDidNotKeepWhenItIsShownAgain) {
   EXPECT_EQ(picture.Screen().At(30, 30), forms::White);
 }
 
+TEST(SymbolFont, ShowsItsSignsForTheLettersWritten) {
+  struct Case {
+    const char *Font, *Text, *Shown;
+  };
+  constexpr Case cases[] = {{"symbol", "-3p/2", "-3π/2"}, {"SYMBOL", "pp", "ππ"},
+                            {"Symbol", "-¥", "-∞"},       {"Symbol", "0,5", "0,5"},
+                            {"Symbols", "p", "p"},        {"MS Serif", "p¥", "p¥"}};
+  for (const auto& [font, text, shown] : cases) {
+    EXPECT_EQ(forms::VisibleText({.Name = font}, text), shown) << font;
+  }
+}
+
 }  // namespace
 }  // namespace clinorama::tests

@@ -3,10 +3,11 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
-#include "forms/failure.h"
+#include "base/failure.h"
 #include "tests/forms/sample_page.h"
 #include "tests/support/scripted_host.h"
 
@@ -121,11 +122,12 @@ TEST_F(Pages, EndTheProgramFromANestedHandler) {
 }
 
 TEST_F(Pages, ShowAFailureThatAHandlerLetsOutAndEndThatHandlerOnly) {
-  The<SamplePage>().Command2.Click = [] { throw forms::TypeMismatch(); };
+  The<SamplePage>().Command2.Click = [] { base::Raise(base::TypeMismatch); };
   host.AtStep(2, [] { The<SamplePage>().Command2.UserClick(); });
   Play();
-  EXPECT_EQ(host.MessageBoxes,
-            (std::vector<MessageBox>{{forms::TypeMismatch().Description(), 0, "Clinorama"}}));
+  EXPECT_EQ(
+      host.MessageBoxes,
+      (std::vector<MessageBox>{{base::Failure(base::TypeMismatch).Description(), 0, "Clinorama"}}));
   EXPECT_EQ(log, (Log{"first finished", "first left"}));
 }
 
@@ -163,6 +165,17 @@ TEST_F(Pages, IgnoreClicksWhereHandlersAreNestedTooDeeply) {
   page.OptionB.UserClick(), page.Command1.UserClick(), page.Sair.UserClick();
   EXPECT_FALSE(page.OptionB.Value);
   EXPECT_EQ(log.size(), 7U);
+}
+
+TEST_F(Pages, LetAnErrorOfTheProgramThrough) {
+  auto& page = The<SamplePage>();
+  page.Show();
+  page.Command2.Click = [] {
+    base::Ignorar([] { base::Raise(base::Overflow); });
+    base::Ignorar([] { throw std::out_of_range("an error of the program"); });
+  };
+  EXPECT_THROW(page.Command2.UserClick(), std::out_of_range);
+  EXPECT_TRUE(host.MessageBoxes.empty());
 }
 
 TEST_F(Pages, AreActivatedWhenTheyBecomeTheActivePage) {

@@ -8,7 +8,7 @@
 #include <utility>
 #include <vector>
 
-#include "shell/Module1.h"
+#include "base/Module1.h"
 #include "tests/support/scripted_host.h"
 #include "workpage/Form12.h"
 

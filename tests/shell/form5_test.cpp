@@ -7,8 +7,8 @@
 #include <string>
 #include <vector>
 
+#include "base/Module1.h"
 #include "engine/clsEquation.h"
-#include "shell/Module1.h"
 #include "shell/window_frame.h"
 #include "tests/support/scripted_host.h"
 #include "workpage/Form12.h"

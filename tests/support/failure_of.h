@@ -1,6 +1,6 @@
 #pragma once
 
-#include "forms/failure.h"
+#include "base/failure.h"
 
 namespace clinorama::tests {
 
@@ -9,7 +9,7 @@ template <class Statement>
 int FailureOf(Statement statement) {
   try {
     statement();
-  } catch (const forms::Failure& failure) {
+  } catch (const base::Failure& failure) {
     return failure.Number();
   }
   return 0;

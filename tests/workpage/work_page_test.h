@@ -9,8 +9,8 @@
 #include <string>
 #include <vector>
 
+#include "base/Module1.h"
 #include "shell/Form2.h"
-#include "shell/Module1.h"
 #include "tests/support/color_at.h"
 #include "tests/support/scripted_host.h"
 #include "workpage/Form12.h"

@@ -1,4 +1,4 @@
-#include "forms/number_text.h"
+#include "base/number_text.h"
 
 #include <gtest/gtest.h>
 
@@ -7,7 +7,6 @@
 #include <string>
 #include <utility>
 
-#include "forms/font.h"
 #include "tests/support/failure_of.h"
 
 namespace clinorama::tests {
@@ -20,8 +19,8 @@ void ExpectTexts() {
       {1234.5, "1234,5"}, {1.0 / 3, "0,333333333333333"},
       {1e20, "1E+20"},    {123456789012345, "123456789012345"}};
   for (const auto& [value, text] : numbers) {
-    EXPECT_EQ(forms::NumberText(value), text);
-    EXPECT_NEAR(forms::NumberFrom(text), value, 1e-15);
+    EXPECT_EQ(base::NumberText(value), text);
+    EXPECT_NEAR(base::NumberFrom(text), value, 1e-15);
   }
 }
 
@@ -42,42 +41,30 @@ TEST(NumberText, IsTheSameOnEveryMachine) {
 }
 
 TEST(NumberText, IsPrintedWithBlanksAroundIt) {
-  EXPECT_EQ(forms::PrintedNumber(0), " 0 ");
-  EXPECT_EQ(forms::PrintedNumber(-3.5), "-3,5 ");
+  EXPECT_EQ(base::PrintedNumber(0), " 0 ");
+  EXPECT_EQ(base::PrintedNumber(-3.5), "-3,5 ");
 }
 
 TEST(NumberText, IsReadWithBlanksAround) {
   constexpr std::pair<double, const char*> texts[] = {{1, "  1 "}, {0.5, ",5"}, {-0.25, "-,25"},
                                                       {5, "+5"},   {3, "3,"},   {2e-3, "2E-3"}};
-  for (const auto& [value, text] : texts) EXPECT_EQ(forms::NumberFrom(text), value) << text;
+  for (const auto& [value, text] : texts) EXPECT_EQ(base::NumberFrom(text), value) << text;
 }
 
 TEST(NumberText, FailsOnAnyOtherText) {
   for (const char* text :
        {"", "  ", "x", "1x", "1.5", "1 2", ",", "1,2,3", "-", "--1", "1e", "0x1", "inf", "1+1"}) {
-    EXPECT_EQ(FailureOf([&] { forms::NumberFrom(text); }), 13) << text;
+    EXPECT_EQ(FailureOf([&] { base::NumberFrom(text); }), 13) << text;
   }
-  EXPECT_EQ(FailureOf([] { forms::NumberFrom("-1E400"); }), 6);
+  EXPECT_EQ(FailureOf([] { base::NumberFrom("-1E400"); }), 6);
 }
 
 TEST(Round, BringsTiesToTheEvenNeighbour) {
-  EXPECT_EQ(forms::Round(0.125, 2), 0.12);
-  EXPECT_EQ(forms::Round(0.375, 2), 0.38);
-  EXPECT_EQ(forms::Round(-2.5, 0), -2);
-  EXPECT_EQ(forms::Round(2.34567, 4), 2.3457);
-  EXPECT_EQ(forms::Round(1e307, 4), 1e307) << "the scaled value is beyond all reals";
-}
-
-TEST(SymbolFont, ShowsItsSignsForTheLettersWritten) {
-  struct Case {
-    const char *Font, *Text, *Shown;
-  };
-  constexpr Case cases[] = {{"symbol", "-3p/2", "-3π/2"}, {"SYMBOL", "pp", "ππ"},
-                            {"Symbol", "-¥", "-∞"},       {"Symbol", "0,5", "0,5"},
-                            {"Symbols", "p", "p"},        {"MS Serif", "p¥", "p¥"}};
-  for (const auto& [font, text, shown] : cases) {
-    EXPECT_EQ(forms::VisibleText({.Name = font}, text), shown) << font;
-  }
+  EXPECT_EQ(base::Round(0.125, 2), 0.12);
+  EXPECT_EQ(base::Round(0.375, 2), 0.38);
+  EXPECT_EQ(base::Round(-2.5, 0), -2);
+  EXPECT_EQ(base::Round(2.34567, 4), 2.3457);
+  EXPECT_EQ(base::Round(1e307, 4), 1e307) << "the scaled value is beyond all reals";
 }
 
 }  // namespace

@@ -4,13 +4,13 @@
 #include <cstdint>
 #include <limits>
 
-#include "engine/failure.h"
+#include "base/failure.h"
 
 // The elementary steps of every calculation. No infinity and no not-a-number may ever stay in a
 // value, so each step tests its own result: a formula is written as a chain of these steps, and
 // fails at the very step that leaves the range. Their arguments are always finite. A result too
 // small for a normal number passes.
-namespace clinorama::engine {
+namespace clinorama::base {
 
 // The value, unless it is an infinity or not a number, which is an overflow.
 inline double Guarded(double value) {
@@ -137,4 +137,4 @@ inline double IntegerRemainder(double a, double b) {
   return static_cast<double>(pair.dividend % pair.divisor);
 }
 
-}  // namespace clinorama::engine
+}  // namespace clinorama::base

@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-namespace clinorama::forms {
+namespace clinorama::base {
 
 // Numbers as the user sees and writes them: the decimal mark is the comma on every machine, so
 // nothing here asks the C locale.
@@ -25,4 +25,4 @@ double Round(double value, int decimals);
 // too large for a 64-bit real failure 6.
 double NumberFrom(std::string_view text);
 
-}  // namespace clinorama::forms
+}  // namespace clinorama::base

@@ -1,4 +1,4 @@
-#include "forms/number_text.h"
+#include "base/number_text.h"
 
 #include <algorithm>
 #include <cmath>
@@ -6,9 +6,9 @@
 #include <locale>
 #include <sstream>
 
-#include "forms/failure.h"
+#include "base/failure.h"
 
-namespace clinorama::forms {
+namespace clinorama::base {
 
 std::string NumberText(double value) {
   std::ostringstream out;
@@ -42,19 +42,19 @@ double Round(double value, int decimals) {
 
 double NumberFrom(std::string_view text) {
   const auto first = text.find_first_not_of(' ');
-  if (first == std::string_view::npos) throw TypeMismatch();
+  if (first == std::string_view::npos) Raise(TypeMismatch);
   std::string digits(text.substr(first, text.find_last_not_of(' ') - first + 1));
   // A point would be taken for the decimal mark below.
-  if (digits.find_first_not_of("0123456789,+-eE") != std::string::npos) throw TypeMismatch();
+  if (digits.find_first_not_of("0123456789,+-eE") != std::string::npos) Raise(TypeMismatch);
   std::replace(digits.begin(), digits.end(), ',', '.');
 
   std::istringstream in(digits);
   in.imbue(std::locale::classic());
   double value = 0;
   in >> value;
-  if (in.fail() && std::abs(value) == std::numeric_limits<double>::max()) throw Overflow();
-  if (in.fail() || in.peek() != std::istringstream::traits_type::eof()) throw TypeMismatch();
+  if (in.fail() && std::abs(value) == std::numeric_limits<double>::max()) Raise(Overflow);
+  if (in.fail() || in.peek() != std::istringstream::traits_type::eof()) Raise(TypeMismatch);
   return value;
 }
 
-}  // namespace clinorama::forms
+}  // namespace clinorama::base

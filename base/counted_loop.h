@@ -1,6 +1,6 @@
 #pragma once
 
-namespace clinorama::forms {
+namespace clinorama::base {
 
 // A loop on a real counter: it starts at `start`, adds `step` after each pass and runs while the
 // counter has not passed `end`. The counter accumulates and is never computed from the number of
@@ -13,4 +13,4 @@ void CountedLoop(double start, double end, double step, Body body) {
   }
 }
 
-}  // namespace clinorama::forms
+}  // namespace clinorama::base
