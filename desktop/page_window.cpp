@@ -58,12 +58,12 @@ PageWindow::PageWindow(forms::Page& page) : page_(&page), client_(new QWidget(th
   SynchronisePage();
 }
 
-void PageWindow::AddControls(forms::Container& container, QWidget& parent) {
+void PageWindow::AddControls(forms::Control& container, QWidget& parent) {
   for (forms::Control* control : container.Children()) {
     View view = MakeView(*control, parent);
     view.Widget->setObjectName(TextFor(control->Name()));
     SynchroniseView(*control, view);
-    if (auto* inner = dynamic_cast<forms::Container*>(control)) AddControls(*inner, *view.Widget);
+    AddControls(*control, *view.Widget);
     views_.emplace(control, std::move(view));
   }
 }

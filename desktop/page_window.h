@@ -37,7 +37,7 @@ class PageWindow : public QWidget {
   void closeEvent(QCloseEvent* event) override;
 
  private:
-  void AddControls(forms::Container& container, QWidget& parent);
+  void AddControls(forms::Control& container, QWidget& parent);
   void SynchronisePage();
   QWidget* WidgetOf(const forms::Control& control) const;
 

@@ -13,7 +13,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
-#include <stdexcept>
+#include <utility>
 
 #include "desktop/look.h"
 #include "desktop/speed_bar.h"
@@ -113,7 +113,8 @@ Qt::Alignment AlignmentFor(forms::Alignment alignment) {
 }
 
 View ViewOf(forms::Label& label, QWidget& parent) {
-  auto* widget = new LabelWidget(label, &parent);
+  const bool clickable = label.Click.Bound() || label.DblClick.Bound();
+  auto* widget = clickable ? new LabelWidget(label, &parent) : new QLabel(&parent);
   widget->setTextFormat(Qt::PlainText);
   return {widget, [&label, widget] {
             const bool bordered = label.Bordered;
@@ -219,23 +220,32 @@ View ViewOf(forms::PictureBox& picture, QWidget& parent) {
   return {new SurfaceView(picture, &parent), [] {}};
 }
 
-// Tries the kinds one after the other; every kind of control has its view.
-template <class Kind, class... Others>
-View ViewOfKind(forms::Control& control, QWidget& parent) {
-  if (auto* kind = dynamic_cast<Kind*>(&control)) return ViewOf(*kind, parent);
-  if constexpr (sizeof...(Others) > 0) {
-    return ViewOfKind<Others...>(control, parent);
-  } else {
-    throw std::logic_error("no view for the control " + control.Name());
-  }
-}
+class ViewMaker final : public forms::ControlVisitor {
+ public:
+  explicit ViewMaker(QWidget& parent) : parent_(parent) {}
+
+  void Visit(forms::Label& label) override { view = ViewOf(label, parent_); }
+  void Visit(forms::TextBox& box) override { view = ViewOf(box, parent_); }
+  void Visit(forms::CommandButton& button) override { view = ViewOf(button, parent_); }
+  void Visit(forms::OptionButton& option) override { view = ViewOf(option, parent_); }
+  void Visit(forms::CheckBox& box) override { view = ViewOf(box, parent_); }
+  void Visit(forms::Frame& frame) override { view = ViewOf(frame, parent_); }
+  void Visit(forms::Image& image) override { view = ViewOf(image, parent_); }
+  void Visit(forms::HScrollBar& bar) override { view = ViewOf(bar, parent_); }
+  void Visit(forms::PictureBox& picture) override { view = ViewOf(picture, parent_); }
+
+  View view;
+
+ private:
+  QWidget& parent_;
+};
 
 }  // namespace
 
 View MakeView(forms::Control& control, QWidget& parent) {
-  return ViewOfKind<forms::Label, forms::TextBox, forms::CommandButton, forms::OptionButton,
-                    forms::CheckBox, forms::Frame, forms::Image, forms::HScrollBar,
-                    forms::PictureBox>(control, parent);
+  ViewMaker maker(parent);
+  control.Accept(maker);
+  return std::move(maker.view);
 }
 
 QRect PlaceOf(const forms::Control& control) {

@@ -8,7 +8,7 @@ namespace clinorama::forms {
 
 Control::Control(Container& parent, std::string name, const Rect& rect)
     : Control(&parent, parent.page_, std::move(name), rect) {
-  parent.children_.push_back(this);
+  static_cast<Control&>(parent).children_.push_back(this);
 }
 
 Control::Control(Page& page, std::string name, const Rect& rect)
@@ -48,12 +48,10 @@ void Control::Fire(const Event& event) {
   Application::Current().Run(*page_, [&event] { event(); });
 }
 
-Control* FindControl(Container& container, const std::string& name) {
+Control* FindControl(Control& container, const std::string& name) {
   for (Control* child : container.Children()) {
     if (child->Name() == name) return child;
-    auto* inner = dynamic_cast<Container*>(child);
-    if (inner == nullptr) continue;
-    if (Control* found = FindControl(*inner, name)) return found;
+    if (Control* found = FindControl(*child, name)) return found;
   }
   return nullptr;
 }

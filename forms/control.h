@@ -10,8 +10,34 @@
 
 namespace clinorama::forms {
 
+class CheckBox;
+class CommandButton;
 class Container;
+class Frame;
+class HScrollBar;
+class Image;
+class Label;
+class OptionButton;
 class Page;
+class PictureBox;
+class TextBox;
+
+// Something that treats each kind of control in its own way, as a host does.
+class ControlVisitor {
+ public:
+  virtual void Visit(Label& label) = 0;
+  virtual void Visit(TextBox& box) = 0;
+  virtual void Visit(CommandButton& button) = 0;
+  virtual void Visit(OptionButton& option) = 0;
+  virtual void Visit(CheckBox& box) = 0;
+  virtual void Visit(Frame& frame) = 0;
+  virtual void Visit(Image& image) = 0;
+  virtual void Visit(HScrollBar& bar) = 0;
+  virtual void Visit(PictureBox& picture) = 0;
+
+ protected:
+  ~ControlVisitor() = default;
+};
 
 // Place and size in twips; the place is counted from the upper left corner of the container.
 struct Rect {
@@ -40,6 +66,12 @@ class Control : public PropertyOwner {
   Property<std::string> ToolTipText{*this, {}};
   // What a screen reader says where neither caption nor tool tip tells what the control is for.
   Property<std::string> AccessibleName{*this, {}};
+
+  // Calls the visitor's function for the kind of this control.
+  virtual void Accept(ControlVisitor& visitor) = 0;
+  // The controls that this one holds, in the order of their declaration, which is also the order of
+  // the tabulator key.
+  const std::vector<Control*>& Children() const { return children_; }
 
   const std::string& Name() const { return name_; }
   Container* Parent() const { return parent_; }
@@ -71,23 +103,18 @@ class Control : public PropertyOwner {
   std::string name_;
   Container* parent_;
   Page* page_;
-};
-
-// A control that holds others.
-class Container : public Control {
- public:
-  using Control::Control;
-  // In the order of their declaration, which is also the order of the tabulator key.
-  const std::vector<Control*>& Children() const { return children_; }
-
- private:
-  friend class Control;
   std::vector<Control*> children_;
 };
 
-// The control of a page or container with a name such as "Calcular" or "Image1(3)", at any depth;
+// A control that may hold others.
+class Container : public Control {
+ public:
+  using Control::Control;
+};
+
+// The control in a page or container with a name such as "Calcular" or "Image1(3)", at any depth;
 // null where there is none.
-Control* FindControl(Container& container, const std::string& name);
+Control* FindControl(Control& container, const std::string& name);
 
 // Controls of one kind under one name, numbered from a first index: "Image1(0)", "Image1(1)", ...
 template <class Kind>

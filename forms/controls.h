@@ -19,6 +19,7 @@ enum class Alignment { Left = 0, Right = 1, Center = 2 };
 class Label : public Control {
  public:
   Label(Container& parent, std::string name, const Rect& rect, std::string caption = {});
+  void Accept(ControlVisitor& visitor) override { visitor.Visit(*this); }
 
   Property<std::string> Caption;
   Property<forms::Font> Font{*this, {}};
@@ -40,6 +41,7 @@ class TextBox : public Control {
  public:
   TextBox(Container& parent, std::string name, const Rect& rect, std::string text,
           std::string toolTip = {});
+  void Accept(ControlVisitor& visitor) override { visitor.Visit(*this); }
 
   Property<std::string> Text;
   // Whether nothing is left of the text without its blanks.
@@ -58,6 +60,7 @@ class CommandButton : public Control {
  public:
   CommandButton(Container& parent, std::string name, const Rect& rect, std::string caption,
                 std::string picture = {}, std::string toolTip = {});
+  void Accept(ControlVisitor& visitor) override { visitor.Visit(*this); }
 
   Property<std::string> Caption;
   Property<forms::Font> Font{*this, {.Name = "MS Serif", .Size = 6}};
@@ -75,6 +78,7 @@ class OptionButton : public Control {
  public:
   OptionButton(Container& parent, std::string name, const Rect& rect, std::string caption,
                std::string toolTip = {});
+  void Accept(ControlVisitor& visitor) override { visitor.Visit(*this); }
 
   Property<std::string> Caption;
   Property<bool> Value{*this, false};
@@ -90,6 +94,7 @@ class OptionButton : public Control {
 class CheckBox : public Control {
  public:
   CheckBox(Container& parent, std::string name, const Rect& rect, bool value);
+  void Accept(ControlVisitor& visitor) override { visitor.Visit(*this); }
 
   Property<bool> Value;
 };
@@ -99,6 +104,7 @@ class Frame : public Container {
  public:
   Frame(Container& parent, std::string name, const Rect& rect, std::string caption = {},
         std::string toolTip = {});
+  void Accept(ControlVisitor& visitor) override { visitor.Visit(*this); }
 
   Property<std::string> Caption;
   Property<Color> ForeColor{*this, Black};
@@ -112,6 +118,7 @@ class Image : public Control {
  public:
   Image(Container& parent, std::string name, const Rect& rect, std::string picture,
         std::string spokenName = {});
+  void Accept(ControlVisitor& visitor) override { visitor.Visit(*this); }
 
   const std::string Picture;
 
@@ -127,6 +134,7 @@ class HScrollBar : public Control {
   HScrollBar(Container& parent, std::string name, const Rect& rect, int min, int max, int value,
              std::string spokenName);
   ~HScrollBar() override;
+  void Accept(ControlVisitor& visitor) override { visitor.Visit(*this); }
 
   const int Min;
   const int Max;

@@ -13,6 +13,8 @@ class Event {
     handler_ = std::move(handler);
     return *this;
   }
+  // Whether a handler is bound.
+  bool Bound() const { return handler_ != nullptr; }
   void operator()() const {
     if (handler_) handler_();
   }

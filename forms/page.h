@@ -19,6 +19,9 @@ class Page : public Container {
   // Place and size of the client area on the screen, in twips.
   Page(std::string name, const Rect& clientArea, std::string caption);
 
+  // A page is no control of another one: it has no kind.
+  void Accept(ControlVisitor& /*visitor*/) override {}
+
   Property<std::string> Caption;
   Property<forms::MousePointer> MousePointer{*this, forms::MousePointer::Default};
 

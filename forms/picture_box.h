@@ -12,6 +12,8 @@ class PictureBox : public Container, public Surface {
  public:
   PictureBox(Container& parent, std::string name, const Rect& rect, std::string spokenName);
 
+  void Accept(ControlVisitor& visitor) override { visitor.Visit(*this); }
+
   // Puts what was drawn on the screen now, from inside a handler.
   void Refresh();
 

@@ -20,9 +20,10 @@ display_packages=(xvfb openbox xauth x11-utils)
 # shellcheck disable=SC2034
 viewing_packages=(x11vnc)
 
-# To test: the smoke test drives a real window, and the layout of the code is checked.
+# To test: the smoke test drives a real window, a random user fills the toolkit's own queue of events,
+# and the layout of the code is checked.
 # shellcheck disable=SC2034
-test_packages=(xdotool imagemagick clang-format)
+test_packages=(xdotool imagemagick clang-format qt6-base-private-dev)
 
 # To typeset the text pictures (scripts/pages): their fonts, asked for by name. Node.js comes on top.
 # shellcheck disable=SC2034

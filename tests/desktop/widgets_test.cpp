@@ -50,15 +50,13 @@ struct BoxCloser {
   QMessageBox::Icon Icon = QMessageBox::NoIcon;
 };
 
-void ExpectWidgets(const forms::Container& container, QWidget& window) {
+void ExpectWidgets(const forms::Control& container, QWidget& window) {
   for (forms::Control* control : container.Children()) {
     auto* widget = window.findChild<QWidget*>(QString::fromStdString(control->Name()));
     ASSERT_NE(widget, nullptr) << control->Name();
     EXPECT_FALSE(widget->accessibleName().isEmpty()) << control->Name();
     EXPECT_EQ(widget->isHidden(), !control->Visible()) << control->Name();
-    if (const auto* inner = dynamic_cast<const forms::Container*>(control)) {
-      ExpectWidgets(*inner, window);
-    }
+    ExpectWidgets(*control, window);
   }
 }
 

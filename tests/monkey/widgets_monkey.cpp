@@ -1,0 +1,164 @@
+// A random user of the real widgets. The events of mouse and keyboard go into the queue of the
+// window system in batches, so that some arrive late, as on a display that was stalled.
+// Usage: widgets_monkey [seconds [seed]]
+
+#include <qpa/qwindowsysteminterface.h>
+#include <QAction>
+#include <QApplication>
+#include <QPointer>
+#include <QTimer>
+#include <QWidget>
+#include <QWindow>
+
+#include "desktop/look.h"
+#include "desktop/qt_host.h"
+#include "forms/application.h"
+#include "journal.h"
+#include "lesson/Form9.h"
+#include "shell/Form2.h"
+#include "workpage/Form12.h"
+
+namespace clinorama::tests {
+namespace {
+
+class MonkeyHost final : public desktop::QtHost {
+ public:
+  MonkeyHost(Journal& journal) : journal_(journal) {}
+  void Wait(int milliseconds) override {
+    Nest([&] { QtHost::Wait(milliseconds); });
+  }
+  void WaitForEvents() override {
+    Nest([&] { QtHost::WaitForEvents(); });
+  }
+  [[noreturn]] void End() override {
+    journal_.Expect(false, "nobody ends the program");
+    std::abort();
+  }
+
+ private:
+  template <class Call>
+  void Nest(Call call) {
+    journal_.NoteDepth(++waits_);
+    call();
+    --waits_;
+  }
+
+  Journal& journal_;
+  int waits_ = 0;  // on the stack
+};
+
+class Monkey {
+ public:
+  explicit Monkey(Journal& journal) : journal_(journal) {}
+
+  // Queues some events, which are not delivered before this returns.
+  void Act() {
+    if (journal_.Over()) {
+      journal_.TellTotal();
+      std::fflush(stdout);
+      std::_Exit(EXIT_SUCCESS);
+    }
+    for (int batch = 1 + journal_.Below(6); batch > 0; --batch) ActOn(ChooseWindow());
+  }
+
+ private:
+  QWidget& ChooseWindow() {
+    QWidgetList windows;
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+      if (window->isVisible()) windows.push_back(window);
+    }
+    return *journal_.OneOf(windows);
+  }
+
+  void ActOn(QWidget& window) {
+    for (const char* end : {"Sair", "AbandonarPrograma"}) {  // these would end the program
+      for (auto* item : window.findChildren<QAction*>(end)) item->setEnabled(false);
+    }
+    const std::string name = window.objectName().toStdString();
+    switch (journal_.Below(16)) {
+      case 0:
+        if (name == "Form2" || !journal_.OneIn(5)) return;
+        journal_.Note("close " + name);
+        QWindowSystemInterface::handleCloseEvent(window.windowHandle());
+        return;
+      case 1:
+        journal_.Note("activate " + name);
+        window.activateWindow();
+        return;
+      case 2:
+      case 3:
+      case 4:
+        Press(window);
+        return;
+      default:
+        Click(window);
+    }
+  }
+
+  void Press(QWidget& window) {
+    static constexpr Qt::Key Keys[] = {Qt::Key_Return, Qt::Key_Space, Qt::Key_Tab,  Qt::Key_Escape,
+                                       Qt::Key_Left,   Qt::Key_Right, Qt::Key_Down, Qt::Key_F10,
+                                       Qt::Key_Alt,    Qt::Key_X,     Qt::Key_2,    Qt::Key_Delete};
+    const Qt::Key key = journal_.OneOf(Keys);
+    const QString text = key == Qt::Key_X || key == Qt::Key_2 ? QString(QChar(key)) : QString();
+    journal_.Note("key " + std::to_string(key) + " in " + window.objectName().toStdString());
+    for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+      QWindowSystemInterface::handleKeyEvent(window.windowHandle(), type, key, Qt::NoModifier,
+                                             text);
+    }
+  }
+
+  void Click(QWidget& window) {
+    const auto widgets = window.findChildren<QWidget*>();
+    QWidget* widget = widgets.empty() ? &window : journal_.OneOf(widgets);
+    // Often the same as before, as a user does who leafs through the lesson.
+    if (last_ != nullptr && last_->window() == &window && journal_.OneIn(2)) widget = last_;
+    if (!widget->isVisible() || widget->window() != &window) return;
+    last_ = widget;
+    const Qt::MouseButton button = journal_.OneIn(20) ? Qt::RightButton : Qt::LeftButton;
+    // Beside the middle there are the ends of bars, and the items of menus.
+    const QPoint point = journal_.OneIn(2) ? widget->rect().center()
+                                           : QPoint(journal_.Below(widget->width() + 1),
+                                                    journal_.Below(widget->height() + 1));
+    const QPointF local = widget->mapTo(&window, point);
+    const QPointF global = widget->mapToGlobal(point);
+    journal_.Note("click " + widget->objectName().toStdString() + " in " +
+                  window.objectName().toStdString());
+    const auto send = [&](QEvent::Type type) {
+      const bool down = type == QEvent::MouseButtonPress;
+      QWindowSystemInterface::handleMouseEvent(window.windowHandle(), ++time_, local, global,
+                                               down ? button : Qt::NoButton, button, type);
+    };
+    for (int clicks = journal_.OneIn(10) ? 2 : 1; clicks > 0; --clicks) {
+      send(QEvent::MouseButtonPress);
+      if (!journal_.OneIn(30)) send(QEvent::MouseButtonRelease);
+    }
+    if (journal_.OneIn(2)) time_ += 1000;  // no double click then
+  }
+
+  Journal& journal_;
+  QPointer<QWidget> last_;  // that was clicked
+  ulong time_ = 0;
+};
+
+}  // namespace
+}  // namespace clinorama::tests
+
+int main(int argc, char** argv) {
+  using namespace clinorama;  // NOLINT(google-build-using-namespace): it is the end of the program
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
+  QApplication qt(argc, argv);
+  tests::Journal journal(argc, argv);
+  desktop::SetLook();
+  tests::MonkeyHost host(journal);
+  forms::Application application(host);
+  forms::The<Form2>().Show();
+  forms::The<Form12>().Show();
+  forms::The<Form9>().Show();
+  tests::Monkey monkey(journal);
+  QTimer timer;
+  timer.callOnTimeout([&monkey] { monkey.Act(); });
+  timer.start(1);
+  return QApplication::exec();
+}
