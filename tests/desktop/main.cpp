@@ -1,12 +1,15 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QTemporaryDir>
 
 #include "desktop/look.h"
 
 // The widgets need an application before the first of them, and no display.
 int main(int argc, char* argv[]) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
+  const QTemporaryDir settings;  // where the toolkit would keep its own
+  qputenv("XDG_CONFIG_HOME", settings.path().toUtf8());
   testing::InitGoogleTest(&argc, argv);
   GTEST_FLAG_SET(death_test_style, "threadsafe");  // the toolkit may run threads
   QApplication application(argc, argv);

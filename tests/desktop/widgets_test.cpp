@@ -4,12 +4,14 @@
 #include <QAction>
 #include <QColorDialog>
 #include <QDialogButtonBox>
+#include <QDir>
 #include <QImage>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMessageBox>
+#include <QPointer>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTimer>
@@ -182,7 +184,60 @@ TEST_F(DesktopTest, AWindowClosedUnderItsMotionIsLeftAlone) {
   QTest::qWait(20);
 }
 
-TEST_F(DesktopTest, TheColourChooserSpeaksPortuguese) {
+TEST_F(DesktopTest, EventsThatArriveAfterTheirPageWasClosedReachNobody) {
+  The<Form12>().Show();
+  auto* label = Find<QLabel>("Form12", "Label2");
+  Window("Form12")->close();
+  const QPointF place(5, 5);
+  QMouseEvent release(QEvent::MouseButtonRelease, place, place, Qt::LeftButton, {}, {});
+  EXPECT_TRUE(QApplication::sendEvent(label, &release));
+  QPointer<QLabel> watched = label;
+  EXPECT_TRUE(QTest::qWaitFor([&watched] { return watched == nullptr; }));
+}
+
+TEST_F(DesktopTest, ABoxOutlivesItsPage) {
+  The<Form12>().Show();
+  QTimer::singleShot(0, [] { Window("Form12")->close(); });
+  QTimer::singleShot(1000, [] {
+    ASSERT_NE(QApplication::activeModalWidget(), nullptr);
+    EXPECT_EQ(QApplication::activeModalWidget()->parent(), nullptr);
+    EXPECT_EQ(Window("Form12"), nullptr);
+    static_cast<QMessageBox*>(QApplication::activeModalWidget())->accept();
+  });
+  Click("Form12", "Calcular");
+}
+
+// While one page gives way to another a window manager may make a third one active for a moment.
+TEST_F(DesktopTest, APageIsActiveWhenTheWindowsHaveComeToRest) {
+  constexpr int ToRest = 400;
+  auto& page = The<Form12>();
+  const auto isWiped = [&page] { return page.Picture1.Screen().At(400, 232) != forms::Red; };
+  const auto draw = [&page] { page.Picture1.Line(0, 0, 5, 5, forms::Red); };
+  The<Form2>().Show();
+  page.Show();
+  QTest::qWait(ToRest);
+  draw();
+  for (const char* passing : {"Form2", "Form12"}) {
+    QEvent activation(QEvent::WindowActivate);
+    QApplication::sendEvent(Window(passing), &activation);
+  }
+  QTest::qWait(ToRest);
+  EXPECT_FALSE(isWiped());
+  Window("Form2")->activateWindow();
+  QTest::qWait(ToRest);
+  EXPECT_FALSE(isWiped());
+  Window("Form12")->activateWindow();
+  QTest::mousePress(Find("Form12", "Label4"), Qt::LeftButton);
+  EXPECT_TRUE(isWiped()) << "at once, where the user presses something on it";
+  Window("Form2")->activateWindow();
+  QTest::qWait(ToRest);
+  draw();
+  Window("Form12")->activateWindow();
+  QTest::qWait(ToRest);
+  EXPECT_TRUE(isWiped());
+}
+
+TEST_F(DesktopTest, TheColourChooserSpeaksPortugueseAndWritesNoFile) {
   QSet<QString> texts;
   QString title;
   QTimer::singleShot(0, [&] {
@@ -190,11 +245,16 @@ TEST_F(DesktopTest, TheColourChooserSpeaksPortuguese) {
     ASSERT_NE(dialog, nullptr);
     title = dialog->windowTitle();
     for (const auto* label : dialog->findChildren<QLabel*>()) texts.insert(label->text().trimmed());
-    for (const auto* button : dialog->findChildren<QPushButton*>()) texts.insert(button->text());
+    for (auto* button : dialog->findChildren<QPushButton*>()) {
+      texts.insert(button->text());
+      if (button->text().startsWith("&Juntar")) button->click();
+    }
     dialog->reject();
   });
   EXPECT_EQ(host.ShowColor(forms::Blue), std::nullopt);
   EXPECT_EQ(title, "Escolher a cor");
+  const QDir settings(qEnvironmentVariable("XDG_CONFIG_HOME"));
+  EXPECT_EQ(settings.entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList());
   texts.remove("");
   const QSet<QString> expected = {"OK",
                                   "Cancelar",

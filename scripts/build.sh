@@ -1,0 +1,35 @@
+# shellcheck shell=bash
+# What the scripts that build have in common. This file is sourced by the scripts beside it, in the
+# root of the checkout; it does nothing by itself.
+
+# Waits until no other script builds in this checkout, and says so: two at once would write the same
+# files. The turn ends with the script, however it ends, or by end_turn.
+take_turn() {
+  mkdir -p build
+  exec {build_lock}>build/.lock
+  if ! flock --nonblock "$build_lock"; then
+    echo "Another scripts/run, scripts/test or scripts/soak is building here: waiting for it." >&2
+    flock "$build_lock"
+  fi
+}
+
+end_turn() { exec {build_lock}>&-; }
+
+# configure <preset> [option ...]: prepares build/<preset>.
+configure() {
+  local preset="$1" how=()
+  # A checkout that was moved or copied brings a folder that belongs to another place.
+  local cache="build/$preset/CMakeCache.txt"
+  if [[ -f "$cache" ]] && ! grep -qxF -e "CMAKE_HOME_DIRECTORY:INTERNAL=$PWD" \
+       -e "CMAKE_HOME_DIRECTORY:INTERNAL=$(pwd -P)" "$cache"; then
+    how+=(--fresh)
+  fi
+  # Ninja does not read these signs in the lists of included files, and builds all again each time.
+  case "$PWD" in
+    *[\'\"\&\;\<\>\|^\`*?]*)
+      how+=(-G "Unix Makefiles")
+      export CMAKE_BUILD_PARALLEL_LEVEL="${CMAKE_BUILD_PARALLEL_LEVEL-$(nproc)}"
+      ;;
+  esac
+  cmake --preset "$preset" "${how[@]}" "${@:2}"
+}
