@@ -210,9 +210,7 @@ bool Evaluator::Call(std::int32_t p, std::int32_t q) {
   }
   repeatable_ = repeatable_ && !function->random;
   program_.Add(TokenKind::Function, a, b, Receive(p, returned.value), function->formula);
-  if (last != first) {  // what stands between them is left behind
-    Null(last);
-  }
+  Null(last);  // which may be the first too; what stands between them is left behind
   Null(first);
   Null(q);
   return true;

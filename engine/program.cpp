@@ -19,13 +19,10 @@ double Quotient(const Step&, double l, double r) {
   return Divides(r) && Finite(r) ? l / r : NotANumber;
 }
 
-// An operand that failed is no integer, so these two fail by themselves.
-double WholeQuotient(const Step&, double l, double r) {
-  return Divides(r) ? IntegerQuotient(l, r) : NotANumber;
-}
-double WholeRemainder(const Step&, double l, double r) {
-  return Divides(r) ? IntegerRemainder(l, r) : NotANumber;
-}
+// These two fail by themselves: an operand that failed is no integer, and a divisor that is too
+// small rounds to 0.
+double WholeQuotient(const Step&, double l, double r) { return IntegerQuotient(l, r); }
+double WholeRemainder(const Step&, double l, double r) { return IntegerRemainder(l, r); }
 
 double Raised(const Step&, double l, double r) {
   return Finite(l) && Finite(r) ? PlainPower(l, r) : NotANumber;
