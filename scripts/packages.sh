@@ -24,6 +24,10 @@ viewing_packages=(x11vnc)
 # shellcheck disable=SC2034
 test_packages=(xdotool imagemagick clang-format)
 
+# To fuzz (the preset "fuzz").
+# shellcheck disable=SC2034
+fuzz_packages=(clang libclang-rt-14-dev)
+
 # To typeset the text pictures (scripts/pages): their fonts, asked for by name. Node.js comes on top.
 # shellcheck disable=SC2034
 page_packages=(fonts-crosextra-carlito fonts-oflb-asana-math fonts-comic-neue)
