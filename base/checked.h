@@ -12,10 +12,14 @@
 // small for a normal number passes.
 namespace clinorama::base {
 
+constexpr double NotANumber = std::numeric_limits<double>::quiet_NaN();
+
+// Neither an infinity nor not a number.
+inline bool Finite(double value) { return std::fabs(value) <= std::numeric_limits<double>::max(); }
+
 // The value, unless it is an infinity or not a number, which is an overflow.
 inline double Guarded(double value) {
-  // Written so that a not-a-number, which compares as false, takes the failing side.
-  if (!(std::fabs(value) <= std::numeric_limits<double>::max())) [[unlikely]] {
+  if (!Finite(value)) [[unlikely]] {
     Raise(Overflow);
   }
   return value;
@@ -49,47 +53,22 @@ inline double Sqrt(double a) {
   return std::sqrt(a);
 }
 
-// `base` raised to `exponent`. A negative base with a non-integer exponent is an invalid argument;
-// zero with a negative exponent is the division by zero that it amounts to.
+// `base` raised to `exponent`, unchecked. A square is a*a and a cube a*a*a, which are much quicker
+// than the power function and differ from it in the last place at most.
+inline double PlainPower(double base, double exponent) {
+  return exponent == 2   ? base * base
+         : exponent == 3 ? base * base * base
+                         : std::pow(base, exponent);
+}
+
+// A negative base with a non-integer exponent is an invalid argument; zero with a negative exponent
+// is the division by zero that it amounts to.
 inline double Power(double base, double exponent) {
-  const double result = std::pow(base, exponent);
-  if (!(std::fabs(result) <= std::numeric_limits<double>::max())) [[unlikely]] {
+  const double result = PlainPower(base, exponent);
+  if (!Finite(result)) [[unlikely]] {
     Raise(result != result ? InvalidArgument : base == 0 ? DivisionByZero : Overflow);
   }
   return result;
-}
-
-// The power of a small integer exponent, to the last bit what `Power` gives: the rounded `product`,
-// which is much quicker, wherever that is sure to be the same. A power function comes closer to the
-// exact value than 0.514 units of the last place; so it can differ from the nearest number only
-// where the exact value lies that near to the middle between two. There, numbers a little beside
-// the product are rounded in different directions.
-inline double ShortPower(double base, long double product, double exponent) {
-  // From 1/64 to 1/32 of a unit of the last place, far more than what the product itself is off by.
-  constexpr long double Margin = 0x1p-58L;
-  constexpr bool Wide = std::numeric_limits<long double>::digits >= 64;
-  // Outside of these sizes the power function loses some of its accuracy.
-  constexpr double Least = 0x1p-20;
-  constexpr double Largest = 0x1p+20;
-
-  const auto below = static_cast<double>(product - product * Margin);
-  const auto above = static_cast<double>(product + product * Margin);
-  const double size = std::fabs(base);
-  if (Wide && below == above && size >= Least && size <= Largest) [[likely]] {
-    return below;
-  }
-  return Power(base, exponent);
-}
-
-// The exponent is 2, or 3, but is handed over as a value that the compiler cannot know: for a
-// square that it knows of, it would itself put the product in the place of the power function.
-inline double Square(double base, double exponent) {
-  const auto wide = static_cast<long double>(base);
-  return ShortPower(base, wide * wide, exponent);
-}
-inline double Cube(double base, double exponent) {
-  const auto wide = static_cast<long double>(base);
-  return ShortPower(base, wide * wide * wide, exponent);
 }
 
 // -1, 0 or 1.

@@ -23,7 +23,9 @@ std::string NumberText(double value) {
 
 std::string PrintedNumber(double value) {
   std::string text;
-  if (value >= 0) text += ' ';
+  if (value >= 0) {
+    text += ' ';
+  }
   text += NumberText(value);
   text += ' ';
   return text;
@@ -36,24 +38,34 @@ double Round(double value, int decimals) {
   const double scaled = value * scale;
   // Beyond this a real has no decimals left to lose.
   constexpr double LastWithDecimals = 4503599627370496.0;  // 2^52
-  if (!(std::abs(scaled) < LastWithDecimals)) return value;
+  if (!(std::abs(scaled) < LastWithDecimals)) {
+    return value;
+  }
   return std::nearbyint(scaled) / scale;
 }
 
 double NumberFrom(std::string_view text) {
   const auto first = text.find_first_not_of(' ');
-  if (first == std::string_view::npos) Raise(TypeMismatch);
+  if (first == std::string_view::npos) {
+    Raise(TypeMismatch);
+  }
   std::string digits(text.substr(first, text.find_last_not_of(' ') - first + 1));
   // A point would be taken for the decimal mark below.
-  if (digits.find_first_not_of("0123456789,+-eE") != std::string::npos) Raise(TypeMismatch);
+  if (digits.find_first_not_of("0123456789,+-eE") != std::string::npos) {
+    Raise(TypeMismatch);
+  }
   std::replace(digits.begin(), digits.end(), ',', '.');
 
   std::istringstream in(digits);
   in.imbue(std::locale::classic());
   double value = 0;
   in >> value;
-  if (in.fail() && std::abs(value) == std::numeric_limits<double>::max()) Raise(Overflow);
-  if (in.fail() || in.peek() != std::istringstream::traits_type::eof()) Raise(TypeMismatch);
+  if (in.fail() && std::abs(value) == std::numeric_limits<double>::max()) {
+    Raise(Overflow);
+  }
+  if (in.fail() || in.peek() != std::istringstream::traits_type::eof()) {
+    Raise(TypeMismatch);
+  }
   return value;
 }
 

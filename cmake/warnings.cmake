@@ -9,7 +9,10 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_L
   target_compile_options(clinorama_warnings INTERFACE -Wno-restrict)
 endif()
 
-if(CLINORAMA_SANITIZE)
+if(CLINORAMA_FUZZ)  # every library has to tell the fuzzer where it goes
+  add_compile_options(-fsanitize=fuzzer-no-link)
+endif()
+if(CLINORAMA_SANITIZE OR CLINORAMA_FUZZ)
   # A real too large for an integer is undefined too, but "undefined" leaves it out.
   set(sanitizers -fsanitize=address,undefined,float-cast-overflow)
   add_compile_options(${sanitizers} -fno-sanitize-recover=all -fno-omit-frame-pointer)

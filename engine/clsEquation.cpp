@@ -53,9 +53,9 @@ void clsEquation::Solve() {
     }
     ErroDominio_ = false;
     Resultado_ = ForaDoDominio;
-    const engine::Avaliacao avaliacao = avaliador_.Evaluate(Variaveis_);
-    ErroDominio_ = avaliacao.erroDominio;
-    Resultado_ = ErroDominio_ ? Module1::CodigoDominio : avaliacao.resultado;
+    const double value = evaluator_.Evaluate();
+    ErroDominio_ = !base::Finite(value);
+    Resultado_ = ErroDominio_ ? Module1::CodigoDominio : value;
     Alterada_ = false;
   } catch (const base::Failure& failure) {
     RaiseError(failure);
@@ -65,8 +65,8 @@ void clsEquation::Solve() {
 // Becomes valid only at its very end, so a text that is rejected here is rejected by every
 // `Solve`.
 void clsEquation::Interpretar() {
-  avaliador_.Prepare(engine::Interpretar(Expressao_), Variaveis_);
-  if (avaliador_.Empty()) {  // no text was ever set, or one without a single token
+  evaluator_.Prepare(engine::Interpretar(Expressao_), Variaveis_);
+  if (evaluator_.Empty()) {  // no text was ever set, or one without a single token
     base::Raise(base::IndexOutOfRange);
   }
   Analisada_ = true;

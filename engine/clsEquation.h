@@ -73,13 +73,13 @@ class clsEquation {
   void Interpretar();
 
   bool Alterada_ = false;   // something changed since the last `Solve` that came to its end
-  bool Analisada_ = false;  // `avaliador_` belongs to `Expressao_`, which is no empty one
+  bool Analisada_ = false;  // `evaluator_` belongs to `Expressao_`, which is no empty one
   bool ErroDominio_ = false;
   bool EmGraus_ = false;
   double Resultado_ = 0;
   engine::Variables Variaveis_;
   std::string Expressao_;
-  engine::Avaliador avaliador_;
+  engine::Evaluator evaluator_;
 };
 
 }  // namespace clinorama

@@ -33,10 +33,8 @@ double FreshRandom() {
   return NextRandom();
 }
 
-Guard Value(double& result, double value) {
-  result = value;
-  return Guard::Passed;
-}
+constexpr Returned Outside = Guard::Failed;
+constexpr Returned OutsideSilently = Guard::FailedSilently;
 
 // 1 - a * a, written as the inverse functions need it.
 double OneMinusSquare(double a) { return Add(Multiply(-a, a), 1); }
@@ -51,131 +49,119 @@ double QuarterTurn() { return 2 * std::atan(1.0); }
 double TwiceSinh(double a) { return Subtract(Exp(a), Exp(-a)); }
 double TwiceCosh(double a) { return Add(Exp(a), Exp(-a)); }
 
-double Abs(double a) { return std::fabs(a); }
-double Arctg(double a) { return std::atan(a); }
-double Cos(double a) { return std::cos(a); }
-double Fix(double a) { return std::trunc(a); }
-double Int(double a) { return std::floor(a); }
-double Sin(double a) { return std::sin(a); }
-double Tan(double a) { return std::tan(a); }
-double Mant(double a) { return a - std::floor(a); }
-double Arccotg(double a) { return QuarterTurn() - std::atan(a); }
+Returned Abs(double a, double) { return std::fabs(a); }
+Returned Arctg(double a, double) { return std::atan(a); }
+Returned Cos(double a, double) { return std::cos(a); }
+Returned Fix(double a, double) { return std::trunc(a); }
+Returned Int(double a, double) { return std::floor(a); }
+Returned Sgn(double a, double) { return Sign(a); }
+Returned Sin(double a, double) { return std::sin(a); }
+Returned Tan(double a, double) { return std::tan(a); }
+Returned Mant(double a, double) { return a - std::floor(a); }
+Returned Arccotg(double a, double) { return QuarterTurn() - std::atan(a); }
 
-Guard Exponential(double a, double, double& y) { return Value(y, Exp(a)); }
-Guard Min(double a, double b, double& y) { return Value(y, a < b ? a : b); }
-Guard Max(double a, double b, double& y) { return Value(y, a > b ? a : b); }
-Guard Mod(double a, double b, double& y) { return Value(y, IntegerRemainder(a, b)); }
-Guard Graus(double a, double, double& y) { return Value(y, Multiply(a, 57.2957795131)); }
-Guard Rad(double a, double, double& y) { return Value(y, Multiply(a, 0.01745329251995)); }
+Returned Exponential(double a, double) { return Exp(a); }
+Returned Min(double a, double b) { return a < b ? a : b; }
+Returned Max(double a, double b) { return a > b ? a : b; }
+Returned Mod(double a, double b) { return IntegerRemainder(a, b); }
+Returned Graus(double a, double) { return Multiply(a, 57.2957795131); }
+Returned Rad(double a, double) { return Multiply(a, 0.01745329251995); }
 
-Guard Rnd(double, double, double& y) {
+Returned Rnd(double, double) {
   // Both steps are of 32-bit reals, and the argument is only there to be read.
-  return Value(y, static_cast<double>(static_cast<float>(FreshRandom() * 20 - 10)));
+  return static_cast<double>(static_cast<float>(FreshRandom() * 20 - 10));
 }
-Guard Random(double a, double b, double& y) {
-  return Value(y, Add(Multiply(FreshRandom(), Subtract(b, a)), a));
-}
-Guard Rand(double a, double, double& y) { return Value(y, std::floor(Multiply(FreshRandom(), a))); }
+Returned Random(double a, double b) { return Add(Multiply(FreshRandom(), Subtract(b, a)), a); }
+Returned Rand(double a, double) { return std::floor(Multiply(FreshRandom(), a)); }
 
-Guard NaturalLog(double a, double, double& y) {
-  return a <= 0 ? Guard::Failed : Value(y, std::log(a));
-}
-Guard Log10(double a, double, double& y) {
-  return a <= 0 ? Guard::Failed : Value(y, Divide(Log(a), Log(10)));
-}
-Guard Log2(double a, double, double& y) {
-  return a <= 0 ? Guard::Failed : Value(y, Divide(Log(a), Log(2)));
-}
-Guard Logn(double a, double b, double& y) {
-  return a <= 0 || b <= 0 ? Guard::Failed : Value(y, Divide(Log(a), Log(b)));
-}
-Guard Sqr(double a, double, double& y) { return a < 0 ? Guard::Failed : Value(y, std::sqrt(a)); }
+Returned NaturalLog(double a, double) { return a <= 0 ? Outside : std::log(a); }
+Returned Log10(double a, double) { return a <= 0 ? Outside : Divide(Log(a), Log(10)); }
+Returned Log2(double a, double) { return a <= 0 ? Outside : Divide(Log(a), Log(2)); }
+Returned Logn(double a, double b) { return a <= 0 || b <= 0 ? Outside : Divide(Log(a), Log(b)); }
+Returned Sqr(double a, double) { return a < 0 ? Outside : std::sqrt(a); }
 
-Guard Sec(double a, double, double& y) { return Value(y, Divide(1, std::cos(a))); }
-Guard Cosec(double a, double, double& y) { return Value(y, Divide(1, std::sin(a))); }
-Guard Cotg(double a, double, double& y) { return Value(y, Divide(1, std::tan(a))); }
+Returned Sec(double a, double) { return Divide(1, std::cos(a)); }
+Returned Cosec(double a, double) { return Divide(1, std::sin(a)); }
+Returned Cotg(double a, double) { return Divide(1, std::tan(a)); }
 
-Guard Arcsen(double a, double, double& y) {
+Returned Arcsen(double a, double) {
   const double t = OneMinusSquare(a);
-  return t <= 0 ? Guard::Failed : Value(y, std::atan(Divide(a, Sqrt(t))));
+  return t <= 0 ? Outside : std::atan(Divide(a, Sqrt(t)));
 }
-Guard Arccos(double a, double, double& y) {
+Returned Arccos(double a, double) {
   const double t = OneMinusSquare(a);
-  return t <= 0 ? Guard::Failed : Value(y, std::atan(Divide(-a, Sqrt(t))) + QuarterTurn());
+  return t <= 0 ? Outside : std::atan(Divide(-a, Sqrt(t))) + QuarterTurn();
 }
-Guard Arcsec(double a, double, double& y) {
+Returned Arcsec(double a, double) {
   const double t = SquareMinusOne(a);
-  return t < 0 ? Guard::Failed
-               : Value(y, (std::atan(Sqrt(t)) - QuarterTurn()) * Sign(a) + QuarterTurn());
+  return t < 0 ? Outside : (std::atan(Sqrt(t)) - QuarterTurn()) * Sign(a) + QuarterTurn();
 }
-Guard Arccosec(double a, double, double& y) {
+Returned Arccosec(double a, double) {
   const double t = SquareMinusOne(a);
-  return t <= 0 ? Guard::Failed : Value(y, Sign(a) * std::atan(Divide(1, Sqrt(t))));
+  return t <= 0 ? Outside : Sign(a) * std::atan(Divide(1, Sqrt(t)));
 }
 
-Guard Senh(double a, double, double& y) { return Value(y, TwiceSinh(a) / 2); }
-Guard Cosh(double a, double, double& y) { return Value(y, TwiceCosh(a) / 2); }
-Guard Tgh(double a, double, double& y) {
+Returned Senh(double a, double) { return TwiceSinh(a) / 2; }
+Returned Cosh(double a, double) { return TwiceCosh(a) / 2; }
+Returned Tgh(double a, double) {
   // The exponentials are taken once: they are what the time goes into.
   const double up = Exp(a);
   const double down = Exp(-a);
-  return Value(y, Divide(Subtract(up, down), Add(up, down)));
+  return Divide(Subtract(up, down), Add(up, down));
 }
-Guard Sech(double a, double, double& y) { return Value(y, Divide(2, TwiceCosh(a))); }
-Guard Cosech(double a, double, double& y) {
-  return a == 0 ? Guard::Failed : Value(y, Divide(2, TwiceSinh(a)));
-}
-Guard Cotgh(double a, double, double& y) {
+Returned Sech(double a, double) { return Divide(2, TwiceCosh(a)); }
+Returned Cosech(double a, double) { return a == 0 ? Outside : Divide(2, TwiceSinh(a)); }
+Returned Cotgh(double a, double) {
   if (a == 0) {
-    return Guard::Failed;
+    return Outside;
   }
   const double up = Exp(a);
   const double down = Exp(-a);
-  return Value(y, Divide(Add(up, down), Subtract(up, down)));
+  return Divide(Add(up, down), Subtract(up, down));
 }
 
-Guard Arcsenh(double a, double, double& y) {
+Returned Arcsenh(double a, double) {
   // Unguarded: far to the left the sum comes out as 0, and its logarithm is a failure.
-  return Value(y, Log(Add(a, Sqrt(SquarePlusOne(a)))));
+  return Log(Add(a, Sqrt(SquarePlusOne(a))));
 }
-Guard Arccosh(double a, double, double& y) {
+Returned Arccosh(double a, double) {
   const double t = SquareMinusOne(a);
   if (t < 0) {
-    return Guard::FailedSilently;
+    return OutsideSilently;
   }
   const double sum = Add(a, Sqrt(t));
-  return sum <= 0 ? Guard::Failed : Value(y, Log(sum));
+  return sum <= 0 ? Outside : Log(sum);
 }
-Guard Arctgh(double a, double, double& y) {
+Returned Arctgh(double a, double) {
   const double divisor = Subtract(1, a);
   if (divisor == 0) {
-    return Guard::FailedSilently;
+    return OutsideSilently;
   }
   const double t = Divide(Add(1, a), divisor);
-  return t <= 0 ? Guard::Failed : Value(y, Log(t) / 2);
+  return t <= 0 ? Outside : Log(t) / 2;
 }
-Guard Arcsech(double a, double, double& y) {
+Returned Arcsech(double a, double) {
   const double square = OneMinusSquare(a);
   if (square < 0 || a == 0) {
-    return Guard::FailedSilently;
+    return OutsideSilently;
   }
   const double t = Divide(Add(Sqrt(square), 1), a);
-  return t <= 0 ? Guard::Failed : Value(y, Log(t));
+  return t <= 0 ? Outside : Log(t);
 }
-Guard Arccosech(double a, double, double& y) {
+Returned Arccosech(double a, double) {
   if (a == 0) {
-    return Guard::FailedSilently;
+    return OutsideSilently;
   }
   const double t = Divide(Add(Sign(a) * Sqrt(SquarePlusOne(a)), 1), a);
-  return t <= 0 ? Guard::Failed : Value(y, Log(t));
+  return t <= 0 ? Outside : Log(t);
 }
-Guard Arccotgh(double a, double, double& y) {
+Returned Arccotgh(double a, double) {
   const double divisor = Subtract(a, 1);
   if (divisor == 0) {
-    return Guard::FailedSilently;
+    return OutsideSilently;
   }
   const double t = Divide(Add(a, 1), divisor);
-  return t <= 0 ? Guard::Failed : Value(y, Log(t) / 2);
+  return t <= 0 ? Outside : Log(t) / 2;
 }
 
 // Names that share a formula may still differ in their codes.
@@ -188,8 +174,8 @@ constexpr Function Library[] = {
     {"fix(", Fix},
     {"int(", Int},
     {"log(", NaturalLog, 17, 30},
-    {"rnd(", Rnd},
-    {"sgn(", Sign},
+    {"rnd(", Rnd, 0, 0, true},
+    {"sgn(", Sgn},
     {"sin(", Sin},
     {"sen(", Sin},
     {"sqr(", Sqr, 1, 31},
@@ -197,10 +183,10 @@ constexpr Function Library[] = {
     {"tan(", Tan},
     {"min(", Min},
     {"max(", Max},
-    {"random(", Random},
+    {"random(", Random, 0, 0, true},
     {"mod(", Mod},
     {"logn(", Logn, 16, 32},
-    {"rand(", Rand},
+    {"rand(", Rand, 0, 0, true},
     {"sec(", Sec},
     {"cosec(", Cosec},
     {"cotan(", Cotg},

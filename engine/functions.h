@@ -12,26 +12,26 @@ enum class Guard : std::uint8_t {
   FailedSilently,  // the point is outside the domain, but no code tells so
 };
 
+// What a call gives: a value, or a guard that did not pass.
+struct Returned {
+  constexpr Returned(double y) : value(y) {}           // NOLINT(google-explicit-constructor)
+  constexpr Returned(Guard failed) : guard(failed) {}  // NOLINT(google-explicit-constructor)
+
+  double value = 0;
+  Guard guard = Guard::Passed;
+};
+
 // Computes a function of `a`, the first cell inside the parentheses, and `b`, the last one (the
-// same cell where there is one argument), into `result`, which a guard that fails leaves alone.
-using Formula = Guard (*)(double a, double b, double& result);
+// same cell where there is one argument).
+using Formula = Returned (*)(double a, double b);
 
-// A function of `a` alone that is defined everywhere and cannot fail.
-using PlainFormula = double (*)(double a);
-
-// A row of the library. It has one of the two kinds of formula.
+// A row of the library.
 struct Function {
-  constexpr Function(std::string_view rowName, PlainFormula rowPlain)
-      : name(rowName), plain(rowPlain) {}
-  constexpr Function(std::string_view rowName, Formula rowFormula, std::int16_t failure = 0,
-                     std::int16_t success = 0)
-      : name(rowName), formula(rowFormula), failureCode(failure), successCode(success) {}
-
   std::string_view name;  // with its "(", as the cell holds it
-  PlainFormula plain = nullptr;
-  Formula formula = nullptr;
+  Formula formula;
   std::int16_t failureCode = 0;  // what a failed guard leaves in `CodigoDominio`
   std::int16_t successCode = 0;  // what a computed value leaves there; 0 leaves it untouched
+  bool random = false;           // another value each time
 };
 
 // The function under that name, or null. All angles are in radians.

@@ -16,11 +16,11 @@ namespace {
 
 // What parentheses add to the priority of all that is inside them: one more than the highest rank
 // below, so that the ranks of two depths never mix.
-constexpr int Degrau = 7;
+constexpr int LevelStep = 7;
 
 // Rank of a kind within its depth. `^` binds tighter than the unary minus, which binds tighter
 // than `*`, `/` and `\`; `%` stands between those and `+`, `-`.
-constexpr int Posto(TokenKind kind) {
+constexpr int Rank(TokenKind kind) {
   switch (kind) {
     case TokenKind::Add:
     case TokenKind::Subtract:
@@ -39,7 +39,7 @@ constexpr int Posto(TokenKind kind) {
       return 6;
     case TokenKind::Open:
     case TokenKind::Function:
-      return Degrau;
+      return LevelStep;
     case TokenKind::Close:
     case TokenKind::Numeral:
     case TokenKind::Comma:
@@ -58,159 +58,159 @@ int Limited(int count) {
 }
 
 // The scan of a text, character by character.
-class Leitor {
+class Scanner {
  public:
-  Analise Ler(std::string_view expressao) {
+  Analysis Scan(std::string_view expressao) {
     int position = 0;
     for (std::size_t at = 0; at < expressao.size();) {
       const std::size_t length = CharacterLength(expressao, at);
       position = Limited(position + 1);
       if (length == 1) {  // every other character is skipped, so what it separates is joined
-        Caracter(expressao[at]);
+        Character(expressao[at]);
       }
       at += length;
     }
-    Despejar();
+    Flush();
     if (nivel_ != 0) {
       Raise(WrongParentheses);
     }
-    return {std::move(simbolos_), Ordem()};
+    return {std::move(simbolos_), Order()};
   }
 
  private:
-  enum class Tipo { Nenhum, Nome, Numeral };
+  enum class Kind { None, Name, Numeral };  // of what is being collected
 
-  void Caracter(char c) {
+  void Character(char c) {
     if ((c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_') {
-      Letra(c);
+      Letter(c);
     } else if ((c >= '0' && c <= '9') || c == '.') {
-      Algarismo(c == '.' ? ',' : c);
+      Digit(c == '.' ? ',' : c);
     } else {
-      Sinal(c);
+      Sign(c);
     }
   }
 
-  void Letra(char c) {
-    if (tipo_ == Tipo::Numeral) {
-      Despejar();
-      Guardar(TokenKind::Multiply, "*");
+  void Letter(char c) {
+    if (tipo_ == Kind::Numeral) {
+      Flush();
+      Store(TokenKind::Multiply, "*");
     }
-    tipo_ = Tipo::Nome;
+    tipo_ = Kind::Name;
     texto_ += c;
     depoisDeValor_ = true;
   }
 
-  void Algarismo(char c) {
-    if (tipo_ == Tipo::Nenhum) {
-      tipo_ = Tipo::Numeral;
+  void Digit(char c) {
+    if (tipo_ == Kind::None) {
+      tipo_ = Kind::Numeral;
     }
     texto_ += c;  // behind a name it belongs to the name, a comma too
     depoisDeValor_ = true;
   }
 
-  void Sinal(char c) {
+  void Sign(char c) {
     switch (c) {
       case '(':
-        Abrir();
+        Opening();
         break;
       case ')':
-        Despejar();
-        Guardar(TokenKind::Close, ")");
-        nivel_ = Limited(nivel_ - Degrau);
+        Flush();
+        Store(TokenKind::Close, ")");
+        nivel_ = Limited(nivel_ - LevelStep);
         depoisDeValor_ = true;
         break;
       case ',':
-        Operador(TokenKind::Comma, "");
+        Operator(TokenKind::Comma, "");
         break;
       case '+':
-        Operador(TokenKind::Add, "+");
+        Operator(TokenKind::Add, "+");
         break;
       case '-':
-        depoisDeValor_ ? Operador(TokenKind::Subtract, "-") : Operador(TokenKind::Negate, "~");
+        depoisDeValor_ ? Operator(TokenKind::Subtract, "-") : Operator(TokenKind::Negate, "~");
         break;
       case '*':
-        Operador(TokenKind::Multiply, "*");
+        Operator(TokenKind::Multiply, "*");
         break;
       case '/':
-        Operador(TokenKind::Divide, "/");
+        Operator(TokenKind::Divide, "/");
         break;
       case '\\':
-        Operador(TokenKind::IntegerDivide, "\\");
+        Operator(TokenKind::IntegerDivide, "\\");
         break;
       case '%':
-        Operador(TokenKind::Remainder, "%");
+        Operator(TokenKind::Remainder, "%");
         break;
       case '^':
-        Operador(TokenKind::Power, "^");
+        Operator(TokenKind::Power, "^");
         break;
       default:
         break;
     }
   }
 
-  void Abrir() {
-    if (tipo_ == Tipo::Nome) {
-      tipo_ = Tipo::Nenhum;
-      Guardar(TokenKind::Function, std::exchange(texto_, {}) + "(");
+  void Opening() {
+    if (tipo_ == Kind::Name) {
+      tipo_ = Kind::None;
+      Store(TokenKind::Function, std::exchange(texto_, {}) + "(");
     } else {
-      if (tipo_ == Tipo::Numeral) {
-        Despejar();
-        Guardar(TokenKind::Multiply, "*");
+      if (tipo_ == Kind::Numeral) {
+        Flush();
+        Store(TokenKind::Multiply, "*");
       }
-      Guardar(TokenKind::Open, "(");
+      Store(TokenKind::Open, "(");
     }
     depoisDeValor_ = false;
-    nivel_ = Limited(nivel_ + Degrau);
-    Limited(nivel_ + Degrau);  // the next depth must have a priority, even if nothing uses it
+    nivel_ = Limited(nivel_ + LevelStep);
+    Limited(nivel_ + LevelStep);  // the next depth must have a priority, even if nothing uses it
   }
 
-  void Operador(TokenKind kind, const char* text) {
-    Despejar();
-    Guardar(kind, text);
+  void Operator(TokenKind kind, const char* text) {
+    Flush();
+    Store(kind, text);
     depoisDeValor_ = false;
   }
 
   // Stores the name or the numeral that is being collected, if there is one.
-  void Despejar() {
-    if (tipo_ != Tipo::Nenhum) {
-      const TokenKind kind = tipo_ == Tipo::Nome ? TokenKind::Name : TokenKind::Numeral;
-      tipo_ = Tipo::Nenhum;
-      Guardar(kind, std::exchange(texto_, {}));
+  void Flush() {
+    if (tipo_ != Kind::None) {
+      const TokenKind kind = tipo_ == Kind::Name ? TokenKind::Name : TokenKind::Numeral;
+      tipo_ = Kind::None;
+      Store(kind, std::exchange(texto_, {}));
     }
   }
 
-  void Guardar(TokenKind kind, std::string text) {
+  void Store(TokenKind kind, std::string text) {
     Limited(static_cast<int>(simbolos_.size()) + 1);
     simbolos_.push_back({kind, std::move(text)});
     const bool isValue = kind == TokenKind::Numeral || kind == TokenKind::Comma;
-    prioridades_.push_back(isValue ? 0 : nivel_ + Posto(kind));
+    prioridades_.push_back(isValue ? 0 : nivel_ + Rank(kind));
   }
 
-  std::vector<std::int32_t> Ordem() const {
-    std::vector<std::int32_t> ordem;
+  std::vector<std::int32_t> Order() const {
+    std::vector<std::int32_t> order;
     for (std::size_t i = 0; i < prioridades_.size(); ++i) {
       if (prioridades_[i] > 0) {
-        ordem.push_back(static_cast<std::int32_t>(i) + 1);
+        order.push_back(static_cast<std::int32_t>(i) + 1);
       }
     }
     const auto priority = [this](std::int32_t p) {
       return prioridades_[static_cast<std::size_t>(p) - 1];
     };
-    std::stable_sort(ordem.begin(), ordem.end(),
+    std::stable_sort(order.begin(), order.end(),
                      [&](std::int32_t a, std::int32_t b) { return priority(a) > priority(b); });
-    return ordem;
+    return order;
   }
 
   std::vector<Simbolo> simbolos_;
   std::vector<int> prioridades_;
   std::string texto_;  // of the token being collected
-  Tipo tipo_ = Tipo::Nenhum;
+  Kind tipo_ = Kind::None;
   int nivel_ = 0;  // priority offset of the current depth, below 0 behind a surplus ")"
   bool depoisDeValor_ = false;  // a value has just ended, so a "-" is binary
 };
 
 }  // namespace
 
-Analise Interpretar(std::string_view expressao) { return Leitor().Ler(expressao); }
+Analysis Interpretar(std::string_view expressao) { return Scanner().Scan(expressao); }
 
 }  // namespace clinorama::engine

@@ -33,17 +33,17 @@ struct Simbolo {
 
 // An expression text taken apart. There is no tree: the tokens stay in a row, and the order says
 // which of them acts first on its neighbours.
-struct Analise {
-  std::vector<Simbolo> Simbolos;
-  // 1-based positions in `Simbolos`, the highest priority first and equal ones from left to right.
+struct Analysis {
+  std::vector<Simbolo> simbolos;
+  // 1-based positions in `simbolos`, the highest priority first and equal ones from left to right.
   // Numerals, commas and what stands behind a surplus ")" need no visit and are not listed. An
   // opening token is always followed by the ")" that closes it.
-  std::vector<std::int32_t> OrdemAvaliacao;
+  std::vector<std::int32_t> ordemAvaliacao;
 };
 
 // Takes a lower-case text apart. Nothing malformed is rejected here but a wrong count of
 // parentheses (`WrongParentheses`); a text, a depth or a number of tokens that the 16-bit counters
 // cannot hold is an `Overflow`.
-Analise Interpretar(std::string_view expressao);
+Analysis Interpretar(std::string_view expressao);
 
 }  // namespace clinorama::engine

@@ -7,7 +7,7 @@
 build_packages=(
   g++ cmake ninja-build pkgconf
   qt6-base-dev qt6-svg-dev
-  libgtest-dev libbenchmark-dev libmuparser-dev
+  libgtest-dev libmuparser-dev
 )
 
 # To run. The pages ask for these two fonts by name.
@@ -24,6 +24,10 @@ viewing_packages=(x11vnc)
 # and the layout of the code is checked.
 # shellcheck disable=SC2034
 test_packages=(xdotool imagemagick clang-format qt6-base-private-dev)
+
+# To fuzz (the preset "fuzz").
+# shellcheck disable=SC2034
+fuzz_packages=(clang libclang-rt-14-dev)
 
 # To typeset the text pictures (scripts/pages): their fonts, asked for by name. Node.js comes on top.
 # shellcheck disable=SC2034

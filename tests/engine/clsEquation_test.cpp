@@ -122,6 +122,10 @@ TEST(ClsEquation, LeavesTheCodeOfTheLastGuardedOperation) {
   equation.Var("x", 1);
   EXPECT_EQ(equation.Solution(), 1000);
   EXPECT_EQ(Module1::CodigoDominio, 18);
+  equation.Equation("1/x");
+  Check({"1/x", 1, Value(1, 66)}, equation);
+  equation.Equation("x");
+  Check({"x", 1, Value(1)}, equation);
 }
 
 TEST(ClsEquation, GoesOnWhereItIsMovedTo) {

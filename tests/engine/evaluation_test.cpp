@@ -187,25 +187,61 @@ TEST(Evaluation, AnswersAnewForEachValueOfTheVariable) {
   }
 }
 
-TEST(Evaluation, SquaresAndCubesAsThePowerFunctionDoes) {
-  volatile double two = 2;  // hidden from the compiler, which would make a product of it
-  volatile double three = 3;
-  clsEquation square;
-  square.Equation("x^2");
-  clsEquation cube;
-  cube.Equation("x^3");
+// A programme has the values of x = 4; what goes wrong at the other abscissa must not pass by it.
+TEST(Evaluation, FailsAtAnAbscissaAsAtTheFirst) {
+  const Case rows[] = {
+      {"5-sqr(x)", -1, Domain(1)},
+      {"sgn(sqr(x))", -1, Domain(1)},
+      {"sen(x)sqr(x)", -1, Domain(1)},
+      {"ln(1+arccosh(x))", 0, Domain()},
+      {"sqr(5-x)+exp(x)", 1000, Domain(1)},
+      {"atn(x*x)", Huge, Error(6, Overflow)},
+      {"x*x", Huge, Error(6, Overflow)},
+      {"min(x*x,1)", Huge, Error(6, Overflow)},
+      {"abs(1,x*x)", Huge, Error(6, Overflow)},
+      {"1/(x*x)", Huge, Error(6, Overflow)},
+      {"(x*x)^0", Huge, Error(6, Overflow)},
+      {"1^(x*x)", Huge, Error(6, Overflow)},
+      {"3%(x*x)", Huge, Error(6, Overflow)},
+      {"(x*x)\\3", Huge, Error(6, Overflow)},
+      {"x*x*0", Huge, Error(6, Overflow)},
+      {"1,x*x", Huge, Error(6, Overflow)},
+      {"max(1,x*x,2)", Huge, Error(6, Overflow)},
+      {"7%x", 0.3, Error(11, ByZero)},
+      {"1,x", Infinity, Error(6, Overflow)},
+      {"(x)^0", NotANumber, Error(6, Overflow)},
+  };
+  for (const Case& row : rows) {
+    clsEquation equation;
+    equation.Equation(row.text);
+    for (const double x : {4.0, 5.0}) {
+      equation.Var("x", x);
+      OutcomeOf(equation);
+    }
+    Check(row, equation);
+  }
+}
+
+TEST(Evaluation, RaisesToTwoAndThreeByProducts) {
+  const struct {
+    const char* text;
+    double (*power)(double x);
+  } rows[] = {
+      {"x^2", [](double x) { return x * x; }},
+      {"x^3", [](double x) { return x * x * x; }},
+      {"x^4", [](double x) { return std::pow(x, 4.0); }},
+      {"2^x", [](double x) { return std::pow(2.0, x); }},
+  };
   std::mt19937 generator(5);
-  std::uniform_real_distribution<double> digits(-2, 2);
-  std::uniform_int_distribution<int> exponents(-30, 30);
-  constexpr int Draws = 200000;
-  for (int i = 0; i < Draws; ++i) {
-    // Half of the sizes are those of drawings, the others go beyond what products are taken for.
-    const double x =
-        i % 2 == 0 ? 6 * digits(generator) : std::ldexp(digits(generator), exponents(generator));
-    square.Var("x", x);
-    cube.Var("x", x);
-    ASSERT_EQ(square.Solution(), std::pow(x, two)) << x;
-    ASSERT_EQ(cube.Solution(), std::pow(x, three)) << x;
+  std::uniform_real_distribution<double> abscissas(-12, 12);
+  for (const auto& row : rows) {
+    clsEquation equation;
+    equation.Equation(row.text);
+    for (int i = 0; i < 1000; ++i) {
+      const double x = abscissas(generator);
+      equation.Var("x", x);
+      ASSERT_EQ(equation.Solution(), row.power(x)) << row.text << ", x = " << x;
+    }
   }
 }
 

@@ -49,15 +49,18 @@ inline Outcome OutcomeOf(clsEquation& equation) {
   return outcome;
 }
 
+// The first evaluation is a walk, and the second the programme that it left, if it did.
 inline void Check(const Case& row, clsEquation& equation) {
-  SCOPED_TRACE("\"" + row.text + "\", x = " + std::to_string(row.x));
   equation.Var("x", row.x);
-  const Outcome outcome = OutcomeOf(equation);
-  EXPECT_EQ(outcome.error, row.expected.error);
-  EXPECT_EQ(outcome.description, row.expected.description);
-  EXPECT_DOUBLE_EQ(outcome.value, row.expected.value);
-  if (row.expected.error == 0) {
-    EXPECT_EQ(outcome.code, row.expected.code);
+  for (const char* which : {"first", "second"}) {
+    SCOPED_TRACE("\"" + row.text + "\", x = " + std::to_string(row.x) + ", " + which);
+    const Outcome outcome = OutcomeOf(equation);
+    EXPECT_EQ(outcome.error, row.expected.error);
+    EXPECT_EQ(outcome.description, row.expected.description);
+    EXPECT_DOUBLE_EQ(outcome.value, row.expected.value);
+    if (row.expected.error == 0) {
+      EXPECT_EQ(outcome.code, row.expected.code);
+    }
   }
 }
 

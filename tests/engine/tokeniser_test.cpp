@@ -12,14 +12,14 @@
 namespace clinorama::tests {
 namespace {
 
-using engine::Analise;
+using engine::Analysis;
 using engine::Interpretar;
 using Order = std::vector<std::int32_t>;
 
 // The tokens with bars between them; the null cell of a comma is a dot.
-std::string Tokens(const Analise& analise) {
+std::string Tokens(const Analysis& analysis) {
   std::string text;
-  for (const engine::Simbolo& simbolo : analise.Simbolos) {
+  for (const engine::Simbolo& simbolo : analysis.simbolos) {
     text += text.empty() ? "" : "|";
     text += simbolo.kind == engine::TokenKind::Comma ? "." : simbolo.text;
   }
@@ -63,9 +63,9 @@ TEST(Tokeniser, TakesTextsApartAndOrdersTheVisits) {
   };
   for (const auto& row : rows) {
     SCOPED_TRACE(row.text);
-    const Analise analise = Interpretar(row.text);
-    EXPECT_EQ(Tokens(analise), row.tokens);
-    EXPECT_EQ(analise.OrdemAvaliacao, row.order);
+    const Analysis analysis = Interpretar(row.text);
+    EXPECT_EQ(Tokens(analysis), row.tokens);
+    EXPECT_EQ(analysis.ordemAvaliacao, row.order);
   }
 }
 
