@@ -33,3 +33,19 @@ configure() {
   esac
   cmake --preset "$preset" "${how[@]}" "${@:2}"
 }
+
+build_fuzzer() {
+  configure fuzz --log-level=WARNING -DCLINORAMA_WERROR=ON
+  cmake --build --preset fuzz
+}
+
+# fuzz_engine [option ...]: tells what it did, and all of it when it found something.
+fuzz_engine() {
+  local log=build/fuzz/log
+  if ! build/fuzz/tests/fuzz/engine_fuzzer -print_final_stats=1 -artifact_prefix=build/fuzz/ "$@" \
+       >"$log" 2>&1; then
+    cat "$log" >&2
+    return 1
+  fi
+  grep '^stat::number' "$log"
+}
