@@ -49,9 +49,10 @@ struct DrawingOperation {
 // screen only, and is gone when the surface is shown again after it was hidden.
 //
 // Sizes and pen widths are logical (15 twips to a pixel); the raster may be finer, by the density,
-// and pens, dots and dotted patterns widen with it. Coordinates are reduced to 32-bit reals before
-// they are mapped; one beyond their range is failure 6. Whatever lies outside is clipped, however
-// far. The surface knows no window system: it paints no text itself.
+// and pens, dots and dotted patterns widen with it, rounded up to whole device pixels. Coordinates
+// are reduced to 32-bit reals before they are mapped; one beyond their range is failure 6. Whatever
+// lies outside is clipped, however far. The surface knows no window system: it paints no text
+// itself.
 class Surface {
  public:
   // Width and height in twips; density in device pixels to a logical pixel, above 0.
@@ -88,7 +89,8 @@ class Surface {
   void ClearPicture();
   // Wipes both pictures with AutoRedraw true; with false takes away what is on the screen only.
   void Cls();
-  // A segment with both of its ends. Without a colour it takes ForeColor.
+  // A segment with both of its ends; a dotted one may end in a gap. Without a colour it takes
+  // ForeColor.
   void Line(double x1, double y1, double x2, double y2, std::optional<Color> color = {});
   // A point: a round dot of DrawWidth pixels.
   void PSet(double x, double y, std::optional<Color> color = {});
@@ -147,8 +149,10 @@ class Surface {
 };
 
 // A step of a motion: draws a figure, waits, and takes the figure away without a copy of what lies
-// under it. A pixel ends as it was or with the pen's bits added, so a figure that crosses other
-// drawing leaves marks. `draw` must draw the same pixels both times.
+// under it. A pixel that one segment of the figure covers, or an odd number of them, ends with the
+// pen's bits added: a white one comes back, and a figure that crosses other drawing leaves marks.
+// One that an even number covers, such as the common end of two, loses the pen's bits instead. A
+// black pen has no bits, and leaves nothing. `draw` must draw the same pixels both times.
 template <class Draw, class Wait>
 void ShowInPassing(Surface& surface, Draw draw, Wait wait) {
   surface.DrawMode = NotMergePen;

@@ -2,7 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <array>
 #include <cmath>
+#include <cstdint>
+#include <iterator>
 #include <limits>
 #include <string>
 #include <utility>
@@ -26,6 +30,9 @@ struct PixelSurface : Surface {
     ScaleInPixels();
   }
 };
+
+// Device pixels to a logical one on screens from small to large.
+constexpr double Densities[] = {0.94, 1, 1.25, 1.41, 1.5, 1.75, 2.81};
 
 struct Segment {
   double X1, Y1, X2, Y2;
@@ -102,10 +109,96 @@ TEST(Surface, PaintsRoundDotsAndCircles) {
     surface.PSet(3.5, 3.5);
     EXPECT_EQ(Seen(surface.Screen()), expected);
   }
-  PixelSurface surface(7, 7);
-  surface.Scale(0, 0, 14, 7);  // the radius is measured along x
-  surface.Circle(7, 3.5, 6);
-  EXPECT_EQ(Seen(surface.Screen()), "..###.. .#...#. #.....# #.....# #.....# .#...#. ..###..");
+  const std::pair<int, std::string> circles[] = {
+      {1, "..###.. .#...#. #.....# #.....# #.....# .#...#. ..###.."},
+      {2, ".#####. ####### ##...## ##...## ##...## ####### .#####."}};
+  for (const auto& [width, expected] : circles) {
+    PixelSurface surface(7, 7);
+    surface.Scale(0, 0, 14, 7);  // the radius is measured along x
+    surface.DrawWidth = width;
+    surface.Circle(7, 3.5, 6);
+    EXPECT_EQ(Seen(surface.Screen()), expected);
+  }
+}
+
+// At each density: the device pixels of a pen of 1, of a pen of 2, and of a dash of a dotted line.
+TEST(Surface, WidensPensAndDashesToWholePixels) {
+  const std::array<int, 3> expected[] = {{1, 2, 2}, {1, 2, 2}, {2, 3, 3}, {2, 3, 3},
+                                         {2, 3, 3}, {2, 4, 4}, {3, 6, 6}};
+  for (std::size_t i = 0; i < std::size(Densities); ++i) {
+    const auto pixels = [&](int width, bool dot) {
+      PixelSurface surface(20, 20, Densities[i]);
+      surface.DrawWidth = width;
+      dot ? surface.PSet(10, 10) : surface.Line(0, 10, 20, 10);
+      const std::string seen = Seen(surface.Screen());
+      return std::count(seen.begin(), seen.end(), '#');
+    };
+    PixelSurface dotted(20, 20, Densities[i]);
+    dotted.DrawStyle = Dotted;
+    dotted.Line(10, 0, 10, 20);
+    int dash = 0;
+    const int column = static_cast<int>(10 * Densities[i] + 1e-6);
+    while (dotted.Screen().At(column, dash) == forms::Black) ++dash;
+    const auto& [one, two, dashed] = expected[i];
+    EXPECT_EQ(pixels(1, false), one * dotted.Screen().Width()) << Densities[i];
+    EXPECT_EQ(pixels(2, false), two * dotted.Screen().Width()) << Densities[i];
+    EXPECT_EQ(pixels(1, true), one * one) << Densities[i];
+    EXPECT_EQ(dash, dashed) << Densities[i];
+  }
+}
+
+// Lines in all directions, with ends anywhere in their pixels.
+TEST(Surface, CoversThePixelsOfEndsWithoutAGap) {
+  for (const double density : Densities) {
+    for (int i = 0; i < 400; ++i) {
+      const double x = 20 + std::cos(i) * 15;
+      const double y = 20 + std::sin(i) * 15;
+      const Segment line = {40 - x + 0.7 * std::cos(3 * i), 40 - y, x, y};
+      PixelSurface surface(40, 40, density);
+      line.DrawOn(surface);
+      const Raster& screen = surface.Screen();
+      const auto covered = [&](double column, double row) {
+        return screen.At(static_cast<int>(column), static_cast<int>(row)) == forms::Black;
+      };
+      for (const auto& [endX, endY] : {std::pair{line.X1, line.Y1}, {line.X2, line.Y2}}) {
+        const double column = surface.LogicalX(endX) * density;
+        const double row = surface.LogicalY(endY) * density;
+        int around = 0;
+        for (const int dx : {-1, 0, 1}) {
+          for (const int dy : {-1, 0, 1}) around += covered(column + dx, row + dy);
+        }
+        ASSERT_TRUE(covered(column, row)) << density << ": " << endX << ", " << endY;
+        ASSERT_GT(around, 1) << density << ": " << endX << ", " << endY;
+      }
+    }
+  }
+}
+
+// The vertical in the middle of a surface falls on a tie at some of these sizes and densities.
+TEST(Surface, DrawsLinesOnOneVerticalOverEachOther) {
+  for (const double density : Densities) {
+    for (int size = 200; size < 208; ++size) {
+      PixelSurface surface(size, 100, density);
+      surface.Scale(-10, 10, 10, -10);
+      surface.Line(0, -9, 0, 9);
+      const std::string line = Seen(surface.Screen());
+      for (const double near : {3e-13, -3e-13, 1e-9, -1e-9}) {
+        surface.Line(0, 2, near, 9);
+        surface.Line(near, -8, near, 8);
+        for (int y = -8; y <= 8; ++y) surface.PSet(near, y);
+      }
+      EXPECT_EQ(Seen(surface.Screen()), line) << size << " at " << density;
+    }
+  }
+}
+
+TEST(Surface, ReducesCoordinatesTo32BitReals) {
+  PixelSurface surface(4, 3);
+  surface.Scale(16777216, 0, 16777220, 3);
+  surface.PSet(16777217, 0);  // lies halfway between two such reals, and goes to the even one
+  surface.Line(16777217, 1, 16777219, 1);
+  EXPECT_EQ(surface.LogicalX(16777217), 0);
+  EXPECT_EQ(Seen(surface.Screen()), "#... #### ....");
 }
 
 TEST(Surface, PaintsTicksAsLongAboveTheAxisAsBelow) {
@@ -189,7 +282,7 @@ int WrongPixelsOfAStep(Surface& surface, Surface& mask, const Segment& line) {
 TEST(Surface, LeavesPenOrPixelWhereALineWasDrawnAndTakenAway) {
   const Segment lines[] = {{2, 3, 37, 3},   {5, 38, 5, 1}, {1, 1, 38, 38},      {1, 30, 38, 21},
                            {33, 2, 21, 39}, {7, 7, 7, 7},  {-50, -20, 60, 70.3}};
-  for (const double density : {1.0, 1.5, 2.0}) {
+  for (const double density : Densities) {
     for (const auto& [style, width] : {std::pair{0, 1}, {Dotted, 1}, {0, 2}}) {
       for (const forms::Color pen : {forms::Black, forms::Red, forms::Blue}) {
         for (const Segment& line : lines) {
