@@ -70,6 +70,9 @@ class Raster {
     std::uint32_t& pixel = pixels_[Index(x, y)];
     pixel = Joined(pixel, pen, operation);
   }
+  // Prints a text in an ink. The stencil holds it black on white, and its upper left corner lies at
+  // (left, top) of this picture. The same text printed again at the same place changes nothing.
+  void Stamp(const Raster& stencil, int left, int top, Color ink, Color ground);
 
  private:
   std::size_t Index(int x, int y) const {

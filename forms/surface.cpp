@@ -14,6 +14,8 @@ namespace {
 // A dotted line is this many logical pixels on and as many off, counted from its first point.
 constexpr int DotLength = 2;
 
+constexpr double PixelsToPoint = 96.0 / 72.0;
+
 // Coordinates are stored as 32-bit reals.
 double Reduced(double coordinate) {
   constexpr auto Largest = static_cast<double>(std::numeric_limits<float>::max());
@@ -32,6 +34,9 @@ int PixelOf(double position) {
   const int pixel = static_cast<int>(near);  // towards 0, and without a call
   return pixel > near ? pixel - 1 : pixel;
 }
+
+// The pixel that a position is nearest to; halfway between two it is the first of them.
+int NearestPixel(double position) { return -PixelOf(0.5 - position); }
 
 // The first of `size` pixels that lie as evenly as they can about a position.
 int FirstPixel(double position, int size) { return PixelOf(position - (size - 1) / 2.0); }
@@ -244,15 +249,7 @@ void Surface::Circle(double x, double y, double radius) {
 }
 
 void Surface::Print(const std::string& text) {
-  const TextRun run = {.X = DeviceX(CurrentX),
-                       .Y = DeviceY(CurrentY),
-                       .Density = density_,
-                       .Text = VisibleText(Font, text),
-                       .Font = Font,
-                       .Ink = ForeColor};
-  PaintText(screen_, run);
-  if (AutoRedraw) PaintText(kept_, run);
-  Touch(screen_.Bounds());
+  PaintLetters(VisibleText(Font, text));
   if (Observer)
     Tell({.What = DrawingOperation::Kind::Text,
           .X1 = CurrentX,
@@ -265,6 +262,24 @@ void Surface::PrintAt(double x, double y, const std::string& text) {
   CurrentX = x;
   CurrentY = y;
   Print(text);
+}
+
+// The host paints the letters once, on a stencil around the text's corner; no letter is wider than
+// two heights of its font, and no line is higher. A text wholly outside is not painted.
+void Surface::PaintLetters(const std::string& text) {
+  const int height = DevicePixels(Font.Size * PixelsToPoint);
+  const PixelRect box = {NearestPixel(DeviceX(CurrentX)) - height,
+                         NearestPixel(DeviceY(CurrentY)) - height,
+                         (2 * static_cast<int>(text.size()) + 2) * height, 4 * height};
+  const PixelRect inside = Intersection(box, screen_.Bounds());
+  if (inside.Empty()) return;
+  Raster stencil(box.Width, box.Height, White);
+  PaintText(
+      stencil,
+      {.X = height, .Y = height, .Density = density_, .Text = text, .Font = Font, .Ink = Black});
+  screen_.Stamp(stencil, box.X, box.Y, ForeColor, backColor_);
+  if (AutoRedraw) kept_.Stamp(stencil, box.X, box.Y, ForeColor, backColor_);
+  Touch(inside);
 }
 
 // Nearly every drawing is of single pixels or of very few, so each is looked at alone, and nothing

@@ -324,6 +324,59 @@ TEST(Surface, KeepsWhatIsDrawnWithAutoRedraw) {
   EXPECT_EQ(surface.Screen().At(1, 0), forms::Blue);
 }
 
+// A surface whose texts are two pixels: the corner, covered wholly, and its neighbour, by half.
+struct PrintedSurface : PixelSurface {
+  PrintedSurface() : PixelSurface(4, 1) {}
+  void PaintText(Raster& raster, const forms::TextRun& run) override {
+    raster.Apply(run.X, run.Y, run.Ink, forms::RasterOperation::Copy);
+    raster.Apply(run.X + 1, run.Y, forms::Color{0x808080}, forms::RasterOperation::Copy);
+    ++Painted;
+  }
+  int Painted = 0;
+};
+
+TEST(Surface, PrintsATextOverItselfAsOnce) {
+  struct Case {
+    forms::Color Ground, There, Ink;
+    std::uint32_t Edge;
+  };
+  using forms::Black, forms::Blue, forms::Red, forms::White;
+  const Case cases[] = {
+      {White, White, Black, 0x808080}, {White, Black, Black, 0x000000},
+      {White, White, Blue, 0x8080FF},  {White, Blue, Blue, 0x0000FF},
+      {White, Black, Red, 0x7F0000},   {White, Blue, Red, 0x7F0080},
+      {Blue, White, Black, 0x808080},  {Blue, Blue, White, 0x7F7FFF},
+  };
+  for (const auto& [ground, there, ink, edge] : cases) {
+    PrintedSurface surface;
+    surface.BackColor(ground);
+    surface.Line(0, 0, 3, 0, there);
+    surface.ForeColor = ink;
+    for (int time = 0; time < 3; ++time) {
+      surface.PrintAt(1, 0, "a");
+      EXPECT_EQ(surface.Screen().At(0, 0), there);
+      EXPECT_EQ(surface.Screen().At(1, 0), ink);
+      EXPECT_EQ(surface.Screen().At(2, 0), forms::Color{edge}) << time;
+      EXPECT_EQ(surface.Screen().At(3, 0), there);
+    }
+  }
+}
+
+TEST(Surface, KeepsATextAsADrawingAndClipsIt) {
+  PrintedSurface surface;
+  surface.TakeDirty();
+  surface.PrintAt(-1, 0, "a");
+  EXPECT_FALSE(surface.TakeDirty().Empty());
+  EXPECT_EQ(Seen(surface.Screen()), "#...");
+  EXPECT_TRUE(Blank(surface.Kept())) << "without AutoRedraw";
+  surface.AutoRedraw = true;
+  surface.PrintAt(2.5, 0, "a");  // halfway: the first of two pixels
+  EXPECT_EQ(Seen(surface.Kept()), "..##");
+  surface.PrintAt(3, 0, "a");
+  surface.PrintAt(1e30, -1e30, "a");
+  EXPECT_EQ(surface.Painted, 3) << "a text far away is not painted";
+}
+
 TEST(Surface, TellsWhichPixelsChangedAndWhatWasDrawn) {
   PixelSurface surface(20, 20);
   std::vector<forms::DrawingOperation> told;
