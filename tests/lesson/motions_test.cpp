@@ -1,7 +1,11 @@
 // The motions: their last positions, the limits of the semi-secants, and what a passing figure
 // leaves behind.
 
+#include <algorithm>
 #include <cmath>
+#include <cstdint>
+#include <map>
+#include <vector>
 
 #include "tests/lesson/lesson_test.h"
 
@@ -92,8 +96,66 @@ TEST_F(LessonTest, InvertsTheOldSemiSecantOnTheRightAndErasesItOnTheLeft) {
   }
 }
 
-// A figure that has passed leaves each pixel as it was or with the bits of its pen added; only the
-// semi-tangents stay.
+// The pixels that a segment covers, as indices into a picture of the lesson's surface.
+std::vector<std::size_t> PixelsOf(forms::Surface& blank, const forms::DrawingOperation& line) {
+  std::vector<std::size_t> pixels;
+  blank.DrawStyle = line.DrawStyle;
+  blank.TakeDirty();
+  blank.Line(line.X1, line.Y1, line.X2, line.Y2, forms::Black);
+  const forms::PixelRect box = blank.TakeDirty();
+  for (int y = box.Y; y < box.Y + box.Height; ++y) {
+    for (int x = box.X; x < box.X + box.Width; ++x) {
+      if (blank.Screen().At(x, y) != forms::Black) continue;
+      pixels.push_back(static_cast<std::size_t>(y * blank.Screen().Width() + x));
+    }
+  }
+  blank.Line(line.X1, line.Y1, line.X2, line.Y2, forms::White);
+  return pixels;
+}
+
+// What figures that pass leave: the bits of the pen are added where an odd number of a figure's
+// segments run over a pixel, and taken away where an even number do.
+TEST_F(LessonTest, LeavesOfPassingFiguresWhatBitsSay) {
+  for (const int number : {7, 8, 12, 13}) {
+    GoTo(number - 1);
+    const forms::PictureBox& picture = page.Picture1;
+    forms::Surface blank(picture.Width, picture.Height, 1);
+    blank.Scale(-1, 10, 10, -1);
+    const forms::Raster before = picture.Kept();
+    std::vector<std::uint32_t> pixels(before.Data(),
+                                      before.Data() + before.Width() * before.Height());
+    page.Seguinte.UserClick();
+
+    std::map<std::size_t, int> figure;  // how many segments cover a pixel
+    std::size_t shown = 0;
+    std::size_t takenAway = 0;
+    int lost = 0;
+    for (const auto& line : Drawn(Kind::Line)) {
+      const auto covered = PixelsOf(blank, line);
+      if (line.DrawMode == 2) {
+        for (const std::size_t pixel : covered) ++figure[pixel];
+        ++shown;
+      } else if (takenAway < shown) {
+        if (++takenAway < shown) continue;
+        for (const auto& [pixel, times] : figure) {
+          std::uint32_t& color = pixels[pixel];
+          lost += times % 2 == 0 && (color & line.Pen.Rgb) != 0;
+          color = times % 2 == 0 ? color & ~line.Pen.Rgb : color | line.Pen.Rgb;
+        }
+        figure.clear();
+        shown = takenAway = 0;
+      } else {
+        for (const std::size_t pixel : covered) {
+          pixels[pixel] = line.DrawMode == 6 ? pixels[pixel] ^ 0xFFFFFF : line.Pen.Rgb;
+        }
+      }
+    }
+    EXPECT_TRUE(std::equal(pixels.begin(), pixels.end(), picture.Kept().Data())) << number;
+    EXPECT_GT(lost, 10) << "no common ends on page " << number;
+  }
+}
+
+// A figure of one segment only adds bits; its semi-tangents stay.
 TEST_F(LessonTest, LeavesMarksOfThePenWhereAFigureCrossedOtherDrawing) {
   GoTo(20);
   const forms::Raster before = page.Picture1.Kept();
