@@ -59,15 +59,19 @@ class Course {
         y2_(y2),
         slope_(x1 == x2 ? 0 : (y2 - y1) / (x2 - x1)),
         // Wide oblique pens are measured across the line.
-        run_(pen == 1 ? 1 : static_cast<int>(std::lround(pen * std::sqrt(1 + slope_ * slope_)))) {}
+        run_(pen == 1 ? 1 : static_cast<int>(std::lround(pen * std::sqrt(1 + slope_ * slope_)))),
+        start_(PixelOf(x1)),
+        end_(PixelOf(x2)) {}
 
   double Left() const { return std::min(x1_, x2_); }
   double Right() const { return std::max(x1_, x2_); }
+  int Start() const { return start_; }
 
-  // A thin line goes by its heights in the middles of columns, but covers the pixels of its ends.
+  // A thin line goes by its heights in the middles of columns, but covers the pixels of its ends. A
+  // wide one covers them anyway.
   Run In(int column) const {
-    if (run_ == 1 && column == PixelOf(x1_)) return FromEnd(column, y1_, x2_ > x1_);
-    if (run_ == 1 && column == PixelOf(x2_)) return FromEnd(column, y2_, x1_ > x2_);
+    if (run_ == 1 && column == start_) return FromEnd(y1_, y2_, column, end_);
+    if (run_ == 1 && column == end_) return FromEnd(y2_, y1_, column, start_);
     return {Row(column), run_};
   }
 
@@ -81,13 +85,15 @@ class Course {
     return FirstPixel(height, run_);
   }
 
-  // Where the pixel of the end does not touch the one in the next column, the pixel between the two
-  // is covered too.
-  Run FromEnd(int column, double y, bool ascending) const {
+  // From the pixel of an end as far as the next column's touches; or all the way to the other end
+  // where the two stand in one column.
+  static Run Between(int a, int b) { return {std::min(a, b), std::abs(a - b) + 1}; }
+  Run FromEnd(double y, double otherY, int column, int otherColumn) const {
     const int end = PixelOf(y);
-    const int beside = Row(ascending ? column + 1 : column - 1);
-    const int reach = std::clamp(end, beside - 1, beside + 1);
-    return {std::min(end, reach), std::abs(end - reach) + 1};
+    if (column == otherColumn) return Between(end, PixelOf(otherY));
+    const int next = column < otherColumn ? column + 1 : column - 1;
+    const int beside = next == otherColumn ? PixelOf(otherY) : Row(next);
+    return Between(end, std::clamp(end, beside - 1, beside + 1));
   }
 
   double x1_;
@@ -96,6 +102,8 @@ class Course {
   double y2_;
   double slope_;
   int run_;
+  int start_;  // columns of the two ends
+  int end_;
 };
 
 int RasterSize(double twips, double density) {
@@ -194,7 +202,6 @@ void Surface::PaintLine(double x1, double y1, double x2, double y2, Color pen) {
   const int width = DevicePixels(DrawWidth);
   const Course course = steep ? Course(y1, x1, y2, x2, width) : Course(x1, y1, x2, y2, width);
   const double overhang = (width - 1) / 2.0;
-  const int start = PixelOf(steep ? y1 : x1);
   const int first = PixelOf(course.Left() - overhang);
   const int last = PixelOf(course.Right() + overhang);
   const int period = DevicePixels(DotLength);
@@ -202,7 +209,7 @@ void Surface::PaintLine(double x1, double y1, double x2, double y2, Color pen) {
 
   const int columns = steep ? screen_.Height() : screen_.Width();
   for (int i = std::max(first, 0); i <= std::min(last, columns - 1); ++i) {
-    if (dotted && std::abs(i - start) / period % 2 != 0) continue;
+    if (dotted && std::abs(i - course.Start()) / period % 2 != 0) continue;
     const auto [top, run] = course.In(i);
     Paint(steep ? PixelRect{top, i, run, 1} : PixelRect{i, top, 1, run}, pen);
   }

@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <array>
 #include <cmath>
 #include <cstdint>
 #include <iterator>
@@ -121,51 +119,45 @@ TEST(Surface, PaintsRoundDotsAndCircles) {
   }
 }
 
-// At each density: the device pixels of a pen of 1, of a pen of 2, and of a dash of a dotted line.
+// At each density: how many device pixels a pen of 1 is wide, and a dash of a dotted line long.
 TEST(Surface, WidensPensAndDashesToWholePixels) {
-  const std::array<int, 3> expected[] = {{1, 2, 2}, {1, 2, 2}, {2, 3, 3}, {2, 3, 3},
-                                         {2, 3, 3}, {2, 4, 4}, {3, 6, 6}};
+  const std::pair<int, int> expected[] = {{1, 2}, {1, 2}, {2, 3}, {2, 3}, {2, 3}, {2, 4}, {3, 6}};
   for (std::size_t i = 0; i < std::size(Densities); ++i) {
-    const auto pixels = [&](int width, bool dot) {
+    const auto blackRows = [&](int style, const Segment& line) {
       PixelSurface surface(20, 20, Densities[i]);
-      surface.DrawWidth = width;
-      dot ? surface.PSet(10, 10) : surface.Line(0, 10, 20, 10);
+      surface.DrawStyle = style;
+      line.DrawOn(surface);
       const std::string seen = Seen(surface.Screen());
-      return std::count(seen.begin(), seen.end(), '#');
+      const std::string rows = seen.substr(seen.find('#'));
+      const std::size_t row = static_cast<std::size_t>(surface.Screen().Width()) + 1;
+      int count = 0;
+      while (rows[static_cast<std::size_t>(count) * row] == '#') ++count;
+      return count;
     };
-    PixelSurface dotted(20, 20, Densities[i]);
-    dotted.DrawStyle = Dotted;
-    dotted.Line(10, 0, 10, 20);
-    int dash = 0;
-    const int column = static_cast<int>(10 * Densities[i] + 1e-6);
-    while (dotted.Screen().At(column, dash) == forms::Black) ++dash;
-    const auto& [one, two, dashed] = expected[i];
-    EXPECT_EQ(pixels(1, false), one * dotted.Screen().Width()) << Densities[i];
-    EXPECT_EQ(pixels(2, false), two * dotted.Screen().Width()) << Densities[i];
-    EXPECT_EQ(pixels(1, true), one * one) << Densities[i];
-    EXPECT_EQ(dash, dashed) << Densities[i];
+    EXPECT_EQ(blackRows(0, {0, 10, 20, 10}), expected[i].first) << Densities[i];
+    EXPECT_EQ(blackRows(Dotted, {10, 0, 10, 20}), expected[i].second) << Densities[i];
   }
 }
 
-// Lines in all directions, with ends anywhere in their pixels.
+// Lines long and short in all directions, with ends anywhere in their pixels.
 TEST(Surface, CoversThePixelsOfEndsWithoutAGap) {
   for (const double density : Densities) {
-    for (int i = 0; i < 400; ++i) {
-      const double x = 20 + std::cos(i) * 15;
-      const double y = 20 + std::sin(i) * 15;
-      const Segment line = {40 - x + 0.7 * std::cos(3 * i), 40 - y, x, y};
+    for (int i = 0; i < 600; ++i) {
+      const double half = i % 3 == 0 ? 15 : i % 3;
+      const double x = 20 + 0.4 * std::cos(7 * i);
+      const Segment line = {x - half * std::cos(i), 20 - half * std::sin(i), x + half * std::cos(i),
+                            20.3 + half * std::sin(i)};
       PixelSurface surface(40, 40, density);
       line.DrawOn(surface);
-      const Raster& screen = surface.Screen();
       const auto covered = [&](double column, double row) {
-        return screen.At(static_cast<int>(column), static_cast<int>(row)) == forms::Black;
+        return surface.Screen().At(static_cast<int>(column), static_cast<int>(row)) == forms::Black;
       };
       for (const auto& [endX, endY] : {std::pair{line.X1, line.Y1}, {line.X2, line.Y2}}) {
         const double column = surface.LogicalX(endX) * density;
         const double row = surface.LogicalY(endY) * density;
         int around = 0;
-        for (const int dx : {-1, 0, 1}) {
-          for (const int dy : {-1, 0, 1}) around += covered(column + dx, row + dy);
+        for (int place = 0; place < 9; ++place) {
+          around += covered(column + place % 3 - 1, row + place / 3 - 1);
         }
         ASSERT_TRUE(covered(column, row)) << density << ": " << endX << ", " << endY;
         ASSERT_GT(around, 1) << density << ": " << endX << ", " << endY;
