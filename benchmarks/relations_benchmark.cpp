@@ -4,40 +4,17 @@
 
 #include <algorithm>
 #include <chrono>
-#include <cstdlib>
 #include <iomanip>
 #include <iostream>
-#include <optional>
 #include <string>
 
+#include "benchmarks/null_host.h"
 #include "forms/application.h"
 #include "relations/Form13.h"
 
 namespace {
 
 using namespace clinorama;
-
-// Nothing is shown, and nobody answers.
-class NullHost final : public forms::Host {
- public:
-  double Density() const override { return 1; }
-  void Shown(forms::Page& /*page*/) override {}
-  void Hidden(forms::Page& /*page*/) override {}
-  void Unloaded(forms::Page& /*page*/) override {}
-  void Changed(forms::Control& /*control*/) override {}
-  void Drawn(forms::PictureBox& /*picture*/) override {}
-  void Flush(forms::PictureBox& picture) override { picture.TakeDirty(); }
-  void PaintText(forms::Raster& /*raster*/, const forms::TextRun& /*run*/) override {}
-  void SetFocus(forms::Control& /*control*/) override {}
-  void MsgBox(const std::string& text, int /*style*/, const std::string& /*title*/) override {
-    std::cerr << text << '\n';
-    std::exit(1);
-  }
-  std::optional<forms::Color> ShowColor(forms::Color /*now*/) override { return std::nullopt; }
-  void Wait(int /*milliseconds*/) override {}
-  void WaitForEvents() override {}
-  [[noreturn]] void End() override { std::exit(0); }
-};
 
 constexpr forms::CommandButton Form13::*Buttons[] = {
     &Form13::DesenharGráfico,       &Form13::DesenharPrimeira,    &Form13::DesenharSegunda,
@@ -62,7 +39,7 @@ double MillisecondsOf(forms::CommandButton& button) {
 }  // namespace
 
 int main() {
-  NullHost host;
+  benchmarks::NullHost host;
   forms::Application application(host);
   auto& page = forms::The<Form13>();
   page.Show();

@@ -98,9 +98,7 @@ void QtHost::PaintText(forms::Raster& raster, const forms::TextRun& run) {
   QPainter painter(&image);
   painter.setFont(SurfaceFontFor(run.Font, run.Density));
   painter.setPen(ColorFor(run.Ink));
-  // Whole pixels, so that the letters of small fonts keep their shapes.
-  painter.drawText(QPointF(std::round(run.X), std::round(run.Y) + painter.fontMetrics().ascent()),
-                   TextFor(run.Text));
+  painter.drawText(QPoint(run.X, run.Y + painter.fontMetrics().ascent()), TextFor(run.Text));
 }
 
 void QtHost::SetFocus(forms::Control& control) {

@@ -41,6 +41,7 @@ class Host {
   virtual void Drawn(PictureBox& picture) = 0;
   // Put what was drawn on the screen now, as often as a screen can show it.
   virtual void Flush(PictureBox& picture) = 0;
+  // Paint the text into a small white raster; the surface prints it from there.
   virtual void PaintText(Raster& raster, const TextRun& run) = 0;
   virtual void SetFocus(Control& control) = 0;
 

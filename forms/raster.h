@@ -28,9 +28,26 @@ struct PixelRect {
 PixelRect Intersection(const PixelRect& a, const PixelRect& b);
 // The smallest rectangle around both; an empty one does not count.
 PixelRect Union(const PixelRect& a, const PixelRect& b);
+// Whether a pixel lies in the rectangle.
+constexpr bool Holds(const PixelRect& rect, int x, int y) {
+  return x >= rect.X && y >= rect.Y && x < rect.X + rect.Width && y < rect.Y + rect.Height;
+}
 
 // The bits of a pixel that hold its colour, 0xRRGGBB; a host's text painter may use the others.
 inline constexpr std::uint32_t ColorBits = 0x00FFFFFF;
+
+// What becomes of a pixel under a pen.
+constexpr std::uint32_t Joined(std::uint32_t pixel, Color pen, RasterOperation operation) {
+  switch (operation) {
+    case RasterOperation::Copy:
+      return pen.Rgb;
+    case RasterOperation::NotMerge:
+      return ~(pen.Rgb | pixel) & ColorBits;
+    case RasterOperation::Invert:
+      return ~pixel & ColorBits;
+  }
+  return pixel;
+}
 
 // A picture of device pixels, row after row from the top.
 class Raster {
@@ -48,8 +65,14 @@ class Raster {
   Color At(int x, int y) const { return Color{pixels_[Index(x, y)] & ColorBits}; }
 
   void Fill(Color color);
-  // Joins the pen with each pixel of the rectangle that lies in the picture.
-  void Apply(const PixelRect& rect, Color pen, RasterOperation operation);
+  // Joins the pen with a pixel inside the picture.
+  void Apply(int x, int y, Color pen, RasterOperation operation) {
+    std::uint32_t& pixel = pixels_[Index(x, y)];
+    pixel = Joined(pixel, pen, operation);
+  }
+  // Prints a text in an ink. The stencil holds it black on white, and its upper left corner lies at
+  // (left, top) of this picture. The same text printed again at the same place changes nothing.
+  void Stamp(const Raster& stencil, int left, int top, Color ink, Color ground);
 
  private:
   std::size_t Index(int x, int y) const {

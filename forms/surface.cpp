@@ -14,6 +14,8 @@ namespace {
 // A dotted line is this many logical pixels on and as many off, counted from its first point.
 constexpr int DotLength = 2;
 
+constexpr double PixelsToPoint = 96.0 / 72.0;
+
 // Coordinates are stored as 32-bit reals.
 double Reduced(double coordinate) {
   constexpr auto Largest = static_cast<double>(std::numeric_limits<float>::max());
@@ -21,15 +23,88 @@ double Reduced(double coordinate) {
   return static_cast<double>(static_cast<float>(coordinate));
 }
 
-// A pixel number for any real position; what lies far outside is brought just near enough for
-// sums of such numbers to stay within the range of an integer.
+// A pixel number for any real position. A position a trifle before the next pixel counts as there:
+// ends that differ in their last digits only would stand a pixel apart otherwise. What lies far
+// outside is brought just near enough for sums of such numbers to stay within the range of an
+// integer.
 int PixelOf(double position) {
+  constexpr double Trifle = 1e-6;
   constexpr double Far = 1 << 28;
-  return static_cast<int>(std::floor(std::clamp(position, -Far, Far)));
+  const double near = std::clamp(position + Trifle, -Far, Far);
+  const int pixel = static_cast<int>(near);  // towards 0, and without a call
+  return pixel > near ? pixel - 1 : pixel;
 }
+
+// The pixel that a position is nearest to; halfway between two it is the first of them.
+int NearestPixel(double position) { return -PixelOf(0.5 - position); }
 
 // The first of `size` pixels that lie as evenly as they can about a position.
 int FirstPixel(double position, int size) { return PixelOf(position - (size - 1) / 2.0); }
+
+// A line as it runs through the columns of pixels of its longer direction. For a steep line columns
+// are rows, and a height is a place along a row.
+class Course {
+ public:
+  // The pixels that the line covers in a column.
+  struct Run {
+    int First;
+    int Count;
+  };
+
+  // From (x1, y1) to (x2, y2) with a pen of so many pixels.
+  Course(double x1, double y1, double x2, double y2, int pen)
+      : x1_(x1),
+        y1_(y1),
+        x2_(x2),
+        y2_(y2),
+        slope_(x1 == x2 ? 0 : (y2 - y1) / (x2 - x1)),
+        // Wide oblique pens are measured across the line.
+        run_(pen == 1 ? 1 : static_cast<int>(std::lround(pen * std::sqrt(1 + slope_ * slope_)))),
+        start_(PixelOf(x1)),
+        end_(PixelOf(x2)) {}
+
+  double Left() const { return std::min(x1_, x2_); }
+  double Right() const { return std::max(x1_, x2_); }
+  int Start() const { return start_; }
+
+  // A thin line goes by its heights in the middles of columns, but covers the pixels of its ends. A
+  // wide one covers them anyway.
+  Run In(int column) const {
+    if (run_ == 1 && column == start_) return FromEnd(y1_, y2_, column, end_);
+    if (run_ == 1 && column == end_) return FromEnd(y2_, y1_, column, start_);
+    return {Row(column), run_};
+  }
+
+ private:
+  // Heights are taken on the whole line, and counted from the end nearer to the raster: from a very
+  // far one they would be lost in rounding.
+  int Row(int column) const {
+    const double x = std::clamp(column + 0.5, Left(), Right());
+    const double height =
+        std::abs(x1_) <= std::abs(x2_) ? y1_ + slope_ * (x - x1_) : y2_ + slope_ * (x - x2_);
+    return FirstPixel(height, run_);
+  }
+
+  // From the pixel of an end as far as the next column's touches; or all the way to the other end
+  // where the two stand in one column.
+  static Run Between(int a, int b) { return {std::min(a, b), std::abs(a - b) + 1}; }
+  Run FromEnd(double y, double otherY, int column, int otherColumn) const {
+    const int end = PixelOf(y);
+    if (column == otherColumn) return Between(end, PixelOf(otherY));
+    const int next = column < otherColumn ? column + 1 : column - 1;
+    const int beside = next == otherColumn ? PixelOf(otherY) : Row(next);
+    return Between(end, std::clamp(end, beside - 1, beside + 1));
+  }
+
+  double x1_;
+  double y1_;
+  double x2_;
+  double y2_;
+  double slope_;
+  int run_;
+  int start_;  // columns of the two ends
+  int end_;
+};
 
 int RasterSize(double twips, double density) {
   return std::max(1, static_cast<int>(std::lround(twips / TwipsToPixel * density)));
@@ -78,8 +153,10 @@ double Surface::LogicalX(double x) const { return DeviceX(x) / density_; }
 
 double Surface::LogicalY(double y) const { return DeviceY(y) / density_; }
 
+// Rounded up, so that nothing gets thinner in proportion than it is at a density of 1.
 int Surface::DevicePixels(double logical) const {
-  return std::max(1, static_cast<int>(std::lround(logical * density_)));
+  constexpr double RoundingError = 1e-6;
+  return std::max(1, static_cast<int>(std::ceil(logical * density_ - RoundingError)));
 }
 
 void Surface::ClearPicture() {
@@ -119,35 +196,21 @@ void Surface::PSet(double x, double y, std::optional<Color> color) {
 
 // A line goes along its longer direction: in each column (or row) of pixels it covers one run of
 // pen pixels about its height there, so that no pixel is touched twice and the same call undoes
-// an inversion exactly. Heights are taken on the unclipped line, and only columns of the raster
-// are walked.
+// an inversion exactly. Only columns of the raster are walked.
 void Surface::PaintLine(double x1, double y1, double x2, double y2, Color pen) {
   const bool steep = std::abs(y2 - y1) > std::abs(x2 - x1);
-  if (steep) {
-    std::swap(x1, y1);
-    std::swap(x2, y2);
-  }
-  const double slope = x1 == x2 ? 0 : (y2 - y1) / (x2 - x1);
-  // Heights are counted from the nearer end: from a very far one they would be lost in rounding.
-  const bool nearFirst = std::abs(x1) <= std::abs(x2);
-  const double nearX = nearFirst ? x1 : x2;
-  const double nearY = nearFirst ? y1 : y2;
   const int width = DevicePixels(DrawWidth);
-  // Wide oblique pens are measured across the line.
-  const int run =
-      width == 1 ? 1 : static_cast<int>(std::lround(width * std::sqrt(1 + slope * slope)));
+  const Course course = steep ? Course(y1, x1, y2, x2, width) : Course(x1, y1, x2, y2, width);
   const double overhang = (width - 1) / 2.0;
-  const int start = PixelOf(x1);
-  const int first = PixelOf(std::min(x1, x2) - overhang);
-  const int last = PixelOf(std::max(x1, x2) + overhang);
+  const int first = PixelOf(course.Left() - overhang);
+  const int last = PixelOf(course.Right() + overhang);
   const int period = DevicePixels(DotLength);
   const bool dotted = DrawStyle != Solid && DrawWidth == 1;
 
   const int columns = steep ? screen_.Height() : screen_.Width();
   for (int i = std::max(first, 0); i <= std::min(last, columns - 1); ++i) {
-    if (dotted && std::abs(i - start) / period % 2 != 0) continue;
-    const double x = std::clamp(i + 0.5, std::min(x1, x2), std::max(x1, x2));
-    const int top = FirstPixel(nearY + slope * (x - nearX), run);
+    if (dotted && std::abs(i - course.Start()) / period % 2 != 0) continue;
+    const auto [top, run] = course.In(i);
     Paint(steep ? PixelRect{top, i, run, 1} : PixelRect{i, top, 1, run}, pen);
   }
 }
@@ -155,8 +218,9 @@ void Surface::PaintLine(double x1, double y1, double x2, double y2, Color pen) {
 void Surface::PaintDot(double x, double y, int size, Color pen) {
   const int left = FirstPixel(x, size);
   const int top = FirstPixel(y, size);
-  if (size == 1) {
-    Paint({left, top, 1, 1}, pen);
+  // The smallest dots are squares.
+  if (size <= 3) {
+    Paint({left, top, size, size}, pen);
     return;
   }
   const double centre = (size - 1) / 2.0;
@@ -192,15 +256,7 @@ void Surface::Circle(double x, double y, double radius) {
 }
 
 void Surface::Print(const std::string& text) {
-  const TextRun run = {.X = DeviceX(CurrentX),
-                       .Y = DeviceY(CurrentY),
-                       .Density = density_,
-                       .Text = VisibleText(Font, text),
-                       .Font = Font,
-                       .Ink = ForeColor};
-  PaintText(screen_, run);
-  if (AutoRedraw) PaintText(kept_, run);
-  Touch(screen_.Bounds());
+  PaintLetters(VisibleText(Font, text));
   if (Observer)
     Tell({.What = DrawingOperation::Kind::Text,
           .X1 = CurrentX,
@@ -215,18 +271,42 @@ void Surface::PrintAt(double x, double y, const std::string& text) {
   Print(text);
 }
 
-void Surface::Paint(const PixelRect& rect, Color pen) {
-  const auto operation = static_cast<RasterOperation>(DrawMode);
-  screen_.Apply(rect, pen, operation);
-  if (AutoRedraw) kept_.Apply(rect, pen, operation);
-  Touch(rect);
+// The host paints the letters once, on a stencil around the text's corner; no letter is wider than
+// two heights of its font, and no line is higher. A text wholly outside is not painted.
+void Surface::PaintLetters(const std::string& text) {
+  const int height = DevicePixels(Font.Size * PixelsToPoint);
+  const PixelRect box = {NearestPixel(DeviceX(CurrentX)) - height,
+                         NearestPixel(DeviceY(CurrentY)) - height,
+                         (2 * static_cast<int>(text.size()) + 2) * height, 4 * height};
+  const PixelRect inside = Intersection(box, screen_.Bounds());
+  if (inside.Empty()) return;
+  Raster stencil(box.Width, box.Height, White);
+  PaintText(
+      stencil,
+      {.X = height, .Y = height, .Density = density_, .Text = text, .Font = Font, .Ink = Black});
+  screen_.Stamp(stencil, box.X, box.Y, ForeColor, backColor_);
+  if (AutoRedraw) kept_.Stamp(stencil, box.X, box.Y, ForeColor, backColor_);
+  Touch(inside);
 }
 
+// Nearly every drawing is of single pixels or of very few, so each is looked at alone, and nothing
+// is told about one that lies where the screen has changed already.
+void Surface::Paint(const PixelRect& rect, Color pen) {
+  const auto operation = static_cast<RasterOperation>(DrawMode);
+  for (int y = rect.Y; y < rect.Y + rect.Height; ++y) {
+    for (int x = rect.X; x < rect.X + rect.Width; ++x) {
+      if (!Holds(screen_.Bounds(), x, y)) continue;
+      screen_.Apply(x, y, pen, operation);
+      if (AutoRedraw) kept_.Apply(x, y, pen, operation);
+      if (!Holds(dirty_, x, y)) Touch({x, y, 1, 1});
+    }
+  }
+}
+
+// The rectangle lies in the raster.
 void Surface::Touch(const PixelRect& rect) {
-  const PixelRect inside = Intersection(rect, screen_.Bounds());
-  if (inside.Empty()) return;
   const bool first = dirty_.Empty();
-  dirty_ = Union(dirty_, inside);
+  dirty_ = Union(dirty_, rect);
   if (first) ScreenChanged();
 }
 

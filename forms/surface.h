@@ -17,11 +17,11 @@ inline constexpr int NotMergePen = static_cast<int>(RasterOperation::NotMerge);
 inline constexpr int InvertPixel = static_cast<int>(RasterOperation::Invert);
 inline constexpr int CopyPen = static_cast<int>(RasterOperation::Copy);
 
-// A text on its way into a raster: where its upper left corner stands, in device pixels, and how
+// A text on its way into a raster: the device pixel where its upper left corner stands, and how
 // many device pixels make a logical one.
 struct TextRun {
-  double X = 0;
-  double Y = 0;
+  int X = 0;
+  int Y = 0;
   double Density = 1;
   std::string Text;
   forms::Font Font;
@@ -49,9 +49,10 @@ struct DrawingOperation {
 // screen only, and is gone when the surface is shown again after it was hidden.
 //
 // Sizes and pen widths are logical (15 twips to a pixel); the raster may be finer, by the density,
-// and pens, dots and dotted patterns widen with it. Coordinates are reduced to 32-bit reals before
-// they are mapped; one beyond their range is failure 6. Whatever lies outside is clipped, however
-// far. The surface knows no window system: it paints no text itself.
+// and pens, dots and dotted patterns widen with it, rounded up to whole device pixels. Coordinates
+// are reduced to 32-bit reals before they are mapped; one beyond their range is failure 6. Whatever
+// lies outside is clipped, however far. The surface knows no window system: the letters of a text
+// are painted by a host.
 class Surface {
  public:
   // Width and height in twips; density in device pixels to a logical pixel, above 0.
@@ -88,13 +89,15 @@ class Surface {
   void ClearPicture();
   // Wipes both pictures with AutoRedraw true; with false takes away what is on the screen only.
   void Cls();
-  // A segment with both of its ends. Without a colour it takes ForeColor.
+  // A segment with both of its ends; a dotted one may end in a gap. Without a colour it takes
+  // ForeColor.
   void Line(double x1, double y1, double x2, double y2, std::optional<Color> color = {});
   // A point: a round dot of DrawWidth pixels.
   void PSet(double x, double y, std::optional<Color> color = {});
   // A circle about (x, y), its radius in units of the x axis.
   void Circle(double x, double y, double radius);
-  // Writes a text at CurrentX, CurrentY in ForeColor, on a transparent ground.
+  // Writes a text at CurrentX, CurrentY in ForeColor, on a transparent ground. Written over itself
+  // it looks as if written once.
   void Print(const std::string& text);
   // The same with the corner at (x, y), where it stays.
   void PrintAt(double x, double y, const std::string& text);
@@ -120,7 +123,7 @@ class Surface {
  protected:
   // Called when the screen changes for the first time since TakeDirty.
   virtual void ScreenChanged() {}
-  // Paints a text into a raster; without a host nothing is painted.
+  // Paints a text, black, into a small white raster; without a host nothing is painted.
   virtual void PaintText(Raster& /*raster*/, const TextRun& /*run*/) {}
 
  private:
@@ -130,6 +133,7 @@ class Surface {
   void Paint(const PixelRect& rect, Color pen);
   void PaintDot(double x, double y, int size, Color pen);
   void PaintLine(double x1, double y1, double x2, double y2, Color pen);
+  void PaintLetters(const std::string& text);
   void Touch(const PixelRect& rect);
   void Tell(DrawingOperation operation) const;  // asks for an Observer
 
@@ -147,8 +151,10 @@ class Surface {
 };
 
 // A step of a motion: draws a figure, waits, and takes the figure away without a copy of what lies
-// under it. A pixel ends as it was or with the pen's bits added, so a figure that crosses other
-// drawing leaves marks. `draw` must draw the same pixels both times.
+// under it. A pixel that one segment of the figure covers, or an odd number of them, ends with the
+// pen's bits added: a white one comes back, and a figure that crosses other drawing leaves marks.
+// One that an even number covers, such as the common end of two, loses the pen's bits instead. A
+// black pen has no bits, and leaves nothing. `draw` must draw the same pixels both times.
 template <class Draw, class Wait>
 void ShowInPassing(Surface& surface, Draw draw, Wait wait) {
   surface.DrawMode = NotMergePen;

@@ -7,7 +7,7 @@
 build_packages=(
   g++ cmake ninja-build pkgconf
   qt6-base-dev qt6-svg-dev
-  libgtest-dev libmuparser-dev
+  libgtest-dev libbenchmark-dev libmuparser-dev
 )
 
 # To run. The pages ask for these two fonts by name.

@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <cstdint>
+#include <iterator>
 #include <limits>
 #include <string>
 #include <utility>
@@ -26,6 +28,9 @@ struct PixelSurface : Surface {
     ScaleInPixels();
   }
 };
+
+// Device pixels to a logical one on screens from small to large.
+constexpr double Densities[] = {0.94, 1, 1.25, 1.41, 1.5, 1.75, 2.81};
 
 struct Segment {
   double X1, Y1, X2, Y2;
@@ -102,10 +107,92 @@ TEST(Surface, PaintsRoundDotsAndCircles) {
     surface.PSet(3.5, 3.5);
     EXPECT_EQ(Seen(surface.Screen()), expected);
   }
-  PixelSurface surface(7, 7);
-  surface.Scale(0, 0, 14, 7);  // the radius is measured along x
-  surface.Circle(7, 3.5, 6);
-  EXPECT_EQ(Seen(surface.Screen()), "..###.. .#...#. #.....# #.....# #.....# .#...#. ..###..");
+  const std::pair<int, std::string> circles[] = {
+      {1, "..###.. .#...#. #.....# #.....# #.....# .#...#. ..###.."},
+      {2, ".#####. ####### ##...## ##...## ##...## ####### .#####."}};
+  for (const auto& [width, expected] : circles) {
+    PixelSurface surface(7, 7);
+    surface.Scale(0, 0, 14, 7);  // the radius is measured along x
+    surface.DrawWidth = width;
+    surface.Circle(7, 3.5, 6);
+    EXPECT_EQ(Seen(surface.Screen()), expected);
+  }
+}
+
+// At each density: how many device pixels a pen of 1 is wide, and a dash of a dotted line long.
+TEST(Surface, WidensPensAndDashesToWholePixels) {
+  const std::pair<int, int> expected[] = {{1, 2}, {1, 2}, {2, 3}, {2, 3}, {2, 3}, {2, 4}, {3, 6}};
+  for (std::size_t i = 0; i < std::size(Densities); ++i) {
+    const auto blackRows = [&](int style, const Segment& line) {
+      PixelSurface surface(20, 20, Densities[i]);
+      surface.DrawStyle = style;
+      line.DrawOn(surface);
+      const std::string seen = Seen(surface.Screen());
+      const std::string rows = seen.substr(seen.find('#'));
+      const std::size_t row = static_cast<std::size_t>(surface.Screen().Width()) + 1;
+      int count = 0;
+      while (rows[static_cast<std::size_t>(count) * row] == '#') ++count;
+      return count;
+    };
+    EXPECT_EQ(blackRows(0, {0, 10, 20, 10}), expected[i].first) << Densities[i];
+    EXPECT_EQ(blackRows(Dotted, {10, 0, 10, 20}), expected[i].second) << Densities[i];
+  }
+}
+
+// Lines long and short in all directions, with ends anywhere in their pixels.
+TEST(Surface, CoversThePixelsOfEndsWithoutAGap) {
+  for (const double density : Densities) {
+    for (int i = 0; i < 900; ++i) {
+      const double half = i % 3 == 0 ? 15 : 0.3 * (i % 5);
+      const double x = 20 + 0.4 * std::cos(7 * i);
+      const Segment line = {x - half * std::cos(i), 20 - half * std::sin(i), x + half * std::cos(i),
+                            20.3 + half * std::sin(i)};
+      PixelSurface surface(40, 40, density);
+      line.DrawOn(surface);
+      const auto pixel = [&](double endX, double endY) {
+        return std::pair(static_cast<int>(surface.LogicalX(endX) * density),
+                         static_cast<int>(surface.LogicalY(endY) * density));
+      };
+      const auto ends = {pixel(line.X1, line.Y1), pixel(line.X2, line.Y2)};
+      const int atLeast = *ends.begin() == *std::rbegin(ends) ? 1 : 2;
+      for (const auto& [column, row] : ends) {
+        int around = 0;
+        for (int place = 0; place < 9; ++place) {
+          around +=
+              surface.Screen().At(column + place % 3 - 1, row + place / 3 - 1) == forms::Black;
+        }
+        ASSERT_EQ(surface.Screen().At(column, row), forms::Black) << density << ": " << i;
+        ASSERT_GE(around, atLeast) << density << ": " << i;
+      }
+    }
+  }
+}
+
+// The vertical in the middle of a surface falls on a tie at some of these sizes and densities.
+TEST(Surface, DrawsLinesOnOneVerticalOverEachOther) {
+  for (const double density : Densities) {
+    for (int size = 200; size < 208; ++size) {
+      PixelSurface surface(size, 100, density);
+      surface.Scale(-10, 10, 10, -10);
+      surface.Line(0, -9, 0, 9);
+      const std::string line = Seen(surface.Screen());
+      for (const double near : {3e-13, -3e-13, 1e-9, -1e-9}) {
+        surface.Line(0, 2, near, 9);
+        surface.Line(near, -8, near, 8);
+        for (int y = -8; y <= 8; ++y) surface.PSet(near, y);
+      }
+      EXPECT_EQ(Seen(surface.Screen()), line) << size << " at " << density;
+    }
+  }
+}
+
+TEST(Surface, ReducesCoordinatesTo32BitReals) {
+  PixelSurface surface(4, 3);
+  surface.Scale(16777216, 0, 16777220, 3);
+  surface.PSet(16777217, 0);  // lies halfway between two such reals, and goes to the even one
+  surface.Line(16777217, 1, 16777219, 1);
+  EXPECT_EQ(surface.LogicalX(16777217), 0);
+  EXPECT_EQ(Seen(surface.Screen()), "#... #### ....");
 }
 
 TEST(Surface, PaintsTicksAsLongAboveTheAxisAsBelow) {
@@ -189,7 +276,7 @@ int WrongPixelsOfAStep(Surface& surface, Surface& mask, const Segment& line) {
 TEST(Surface, LeavesPenOrPixelWhereALineWasDrawnAndTakenAway) {
   const Segment lines[] = {{2, 3, 37, 3},   {5, 38, 5, 1}, {1, 1, 38, 38},      {1, 30, 38, 21},
                            {33, 2, 21, 39}, {7, 7, 7, 7},  {-50, -20, 60, 70.3}};
-  for (const double density : {1.0, 1.5, 2.0}) {
+  for (const double density : Densities) {
     for (const auto& [style, width] : {std::pair{0, 1}, {Dotted, 1}, {0, 2}}) {
       for (const forms::Color pen : {forms::Black, forms::Red, forms::Blue}) {
         for (const Segment& line : lines) {
@@ -229,6 +316,59 @@ TEST(Surface, KeepsWhatIsDrawnWithAutoRedraw) {
   surface.PSet(1, 0);
   surface.Restore();
   EXPECT_EQ(surface.Screen().At(1, 0), forms::Blue);
+}
+
+// A surface whose texts are two pixels: the corner, covered wholly, and its neighbour, by half.
+struct PrintedSurface : PixelSurface {
+  PrintedSurface() : PixelSurface(4, 1) {}
+  void PaintText(Raster& raster, const forms::TextRun& run) override {
+    raster.Apply(run.X, run.Y, run.Ink, forms::RasterOperation::Copy);
+    raster.Apply(run.X + 1, run.Y, forms::Color{0x808080}, forms::RasterOperation::Copy);
+    ++Painted;
+  }
+  int Painted = 0;
+};
+
+TEST(Surface, PrintsATextOverItselfAsOnce) {
+  struct Case {
+    forms::Color Ground, There, Ink;
+    std::uint32_t Edge;
+  };
+  using forms::Black, forms::Blue, forms::Red, forms::White;
+  const Case cases[] = {
+      {White, White, Black, 0x808080}, {White, Black, Black, 0x000000},
+      {White, White, Blue, 0x8080FF},  {White, Blue, Blue, 0x0000FF},
+      {White, Black, Red, 0x7F0000},   {White, Blue, Red, 0x7F0080},
+      {Blue, White, Black, 0x808080},  {Blue, Blue, White, 0x7F7FFF},
+  };
+  for (const auto& [ground, there, ink, edge] : cases) {
+    PrintedSurface surface;
+    surface.BackColor(ground);
+    surface.Line(0, 0, 3, 0, there);
+    surface.ForeColor = ink;
+    for (int time = 0; time < 3; ++time) {
+      surface.PrintAt(1, 0, "a");
+      EXPECT_EQ(surface.Screen().At(0, 0), there);
+      EXPECT_EQ(surface.Screen().At(1, 0), ink);
+      EXPECT_EQ(surface.Screen().At(2, 0), forms::Color{edge}) << time;
+      EXPECT_EQ(surface.Screen().At(3, 0), there);
+    }
+  }
+}
+
+TEST(Surface, KeepsATextAsADrawingAndClipsIt) {
+  PrintedSurface surface;
+  surface.TakeDirty();
+  surface.PrintAt(-1, 0, "a");
+  EXPECT_FALSE(surface.TakeDirty().Empty());
+  EXPECT_EQ(Seen(surface.Screen()), "#...");
+  EXPECT_TRUE(Blank(surface.Kept())) << "without AutoRedraw";
+  surface.AutoRedraw = true;
+  surface.PrintAt(2.5, 0, "a");  // halfway: the first of two pixels
+  EXPECT_EQ(Seen(surface.Kept()), "..##");
+  surface.PrintAt(3, 0, "a");
+  surface.PrintAt(1e30, -1e30, "a");
+  EXPECT_EQ(surface.Painted, 3) << "a text far away is not painted";
 }
 
 TEST(Surface, TellsWhichPixelsChangedAndWhatWasDrawn) {

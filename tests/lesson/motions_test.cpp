@@ -1,7 +1,11 @@
 // The motions: their last positions, the limits of the semi-secants, and what a passing figure
 // leaves behind.
 
+#include <algorithm>
 #include <cmath>
+#include <cstdint>
+#include <map>
+#include <vector>
 
 #include "tests/lesson/lesson_test.h"
 
@@ -92,32 +96,63 @@ TEST_F(LessonTest, InvertsTheOldSemiSecantOnTheRightAndErasesItOnTheLeft) {
   }
 }
 
-// A figure that has passed leaves each pixel as it was or with the bits of its pen added; only the
-// semi-tangents stay.
-TEST_F(LessonTest, LeavesMarksOfThePenWhereAFigureCrossedOtherDrawing) {
-  GoTo(20);
-  const forms::Raster before = page.Picture1.Kept();
-  AtStep(1000, [&] {
-    EXPECT_EQ(drawn.back().DrawMode, 2);
-    EXPECT_EQ(
-        PixelAt((drawn.back().X1 + drawn.back().X2) / 2, (drawn.back().Y1 + drawn.back().Y2) / 2),
-        forms::Black);
-  });
-  page.Seguinte.UserClick();
-  const forms::Raster& after = page.Picture1.Kept();
-  int marks = 0;
-  int wrong = 0;
-  for (int y = 0; y < before.Height(); ++y) {
-    for (int x = 0; x < before.Width(); ++x) {
-      const forms::Color old = before.At(x, y);
-      const forms::Color now = after.At(x, y);
-      if (now == old || now == forms::Red) continue;
-      const forms::Color marked{old.Rgb | forms::Blue.Rgb};
-      ++(now == marked ? marks : wrong);
+// The pixels that a segment covers, as indices into a picture of the lesson's surface.
+std::vector<std::size_t> PixelsOf(forms::Surface& blank, const forms::DrawingOperation& line) {
+  std::vector<std::size_t> pixels;
+  blank.DrawStyle = line.DrawStyle;
+  blank.TakeDirty();
+  blank.Line(line.X1, line.Y1, line.X2, line.Y2, forms::Black);
+  const forms::PixelRect box = blank.TakeDirty();
+  for (int y = box.Y; y < box.Y + box.Height; ++y) {
+    for (int x = box.X; x < box.X + box.Width; ++x) {
+      if (blank.Screen().At(x, y) != forms::Black) continue;
+      pixels.push_back(static_cast<std::size_t>(y * blank.Screen().Width() + x));
     }
   }
-  EXPECT_GT(marks, 0);
-  EXPECT_EQ(wrong, 0);
+  blank.Line(line.X1, line.Y1, line.X2, line.Y2, forms::White);
+  return pixels;
+}
+
+// What figures that pass leave: the bits of the pen are added where an odd number of a figure's
+// segments run over a pixel, and taken away where an even number do, such as at a common end.
+TEST_F(LessonTest, LeavesMarksOfThePenWhereAFigurePassed) {
+  for (const int number : {7, 8, 12, 13, 17}) {
+    GoTo(number - 1);
+    const forms::PictureBox& picture = page.Picture1;
+    forms::Surface blank(picture.Width, picture.Height, 1);
+    const double margin = number == 17 ? -10 : -1;
+    blank.Scale(margin, 10, 10, margin);
+    const std::uint32_t* kept = picture.Kept().Data();
+    std::vector<std::uint32_t> pixels(kept,
+                                      kept + picture.Kept().Width() * picture.Kept().Height());
+    page.Seguinte.UserClick();
+
+    std::map<std::size_t, int> figure;  // how many segments cover a pixel
+    int toTakeAway = 0;
+    int added = 0;
+    int lost = 0;
+    for (const auto& line : Drawn(Kind::Line)) {
+      if (line.DrawMode == 2) {
+        for (const std::size_t pixel : PixelsOf(blank, line)) ++figure[pixel];
+        ++toTakeAway;
+      } else if (toTakeAway == 0) {
+        for (const std::size_t pixel : PixelsOf(blank, line)) {
+          pixels[pixel] = line.DrawMode == 6 ? pixels[pixel] ^ 0xFFFFFF : line.Pen.Rgb;
+        }
+      } else if (--toTakeAway == 0) {
+        for (const auto& [pixel, times] : figure) {
+          const std::uint32_t old = pixels[pixel];
+          pixels[pixel] = times % 2 == 0 ? old & ~line.Pen.Rgb : old | line.Pen.Rgb;
+          added += pixels[pixel] > old;
+          lost += pixels[pixel] < old;
+        }
+        figure.clear();
+      }
+    }
+    EXPECT_TRUE(std::equal(pixels.begin(), pixels.end(), picture.Kept().Data())) << number;
+    EXPECT_GT(added, 0) << number;
+    EXPECT_EQ(lost > 10, number != 17) << "a figure of one segment has no common end";
+  }
 }
 
 TEST_F(LessonTest, DrawsTheSemiTangentWhereTheMotionHasLeftTheSemiSecant) {

@@ -83,7 +83,11 @@ TEST_F(DrawingTest, LiveDrawing) {
     EXPECT_TRUE(PersistentInView(persistent));
     EXPECT_EQ(page.MousePointer(), forms::MousePointer::Default);
     EXPECT_EQ(page.Picture1(persistent).DrawWidth, 1);
+    EXPECT_EQ(page.Picture1(live).DrawWidth, 1);
     EXPECT_EQ(Points(live).size(), dotsOnFunction ? 0u : Points(persistent).size());
+    if (!dotsOnFunction) {
+      EXPECT_EQ(Points(live).front().DrawWidth, Points(persistent).front().DrawWidth);
+    }
     EXPECT_EQ(host.Flushes.size(), Points(live).size());
     EXPECT_EQ(host.Steps, 0) << "nothing lets an event in";
   }
@@ -153,6 +157,7 @@ TEST_F(DrawingTest, ConstantFunctions) {
       {&Form13::DesenharGráfico, "-8", 1, CurveBlue, 0},
       {&Form13::DesenharPrimeira, "0", 3, CurveBlue, 15999, -7.999, 7.999, 0},
       {&Form13::DesenharSegunda, "0", 5, CurveBlue, 15999, -7.999, 7.999, 0},
+      {&Form13::DesenharSegunda, "x^2", 5, CurveBlue, 15999, -7.999, 7.999, 2},
       {&Form13::ColocarCoresFunção, "3", 1, Green, 32001, -8, 8, 2.98},
       {&Form13::ColocarCoresFunção, "3", 1, Red, 32001, -8, 8, 3.01},
       {&Form13::ColocarCoresFunção, "-8", 1, Red, 0},
@@ -167,7 +172,8 @@ TEST_F(DrawingTest, ConstantFunctions) {
       {&Form13::ZerosSegunda, "3", 5, Green, 16199, -8.099, 8.099, 0, 5},
       // The value at -8.001 spoils two quotients of what is not constant, the first of them unseen.
       {&Form13::ZerosSegunda, "2*x", 5, Green, 16198, -8.098, 8.099, 0, 5},
-      {&Form13::ZerosPrimeira, "x/50", 3, -1, 0},
+      {&Form13::ZerosPrimeira, "x/105", 3, Red, 15999, -7.999, 7.999, 1 / 105.0, 5},
+      {&Form13::ZerosPrimeira, "x/95", 3, -1, 0},
   };
   for (const Row& row : rows) {
     SCOPED_TRACE((page.*row.Press).Name() + " of " + row.Text);
@@ -251,6 +257,8 @@ TEST_F(DrawingTest, SpecialPoints) {
     ASSERT_EQ(xs.size(), row.Xs.size());
     for (std::size_t i = 0; i < xs.size(); ++i) EXPECT_NEAR(xs[i], row.Xs[i], 0.02);
   }
+  Press(&Form13::InflexõesFunção, "(x-0.0035)^3");
+  EXPECT_NEAR(Points(1).back().X1, 0.01, 1e-9) << "the first sample after it, every 0.01";
 }
 
 TEST_F(DrawingTest, OutsideTheDomain) {
@@ -264,6 +272,9 @@ TEST_F(DrawingTest, OutsideTheDomain) {
   }
   Press(&Form13::ColocarCoresPrimeira1, "sqr(x)");
   EXPECT_GT(Points(3).front().X1, 0);
+  // The value that decides is that of the sample before: the first one above 0 is left out.
+  Press(&Form13::ColocarCoresPrimeira2, "(abs(x-0.0005)+(x-0.0005))^2");
+  EXPECT_NEAR(Points(3).front().X1, 0.002, 1e-9);
   // The first valid sample is compared with the value that stands for none.
   Press(&Form13::ColocarCoresFunção, "sqr(x)");
   EXPECT_EQ(Points(1).front().Pen, forms::QBColor(Red));
@@ -348,6 +359,8 @@ TEST_F(DrawingTest, CurvesAddUpOnThePersistentCanvas) {
   };
   Press(&Form13::DesenharGráfico, "1");
   EXPECT_TRUE(bare);
+  Press(&Form13::ColocarCoresFunção2, "3");
+  EXPECT_EQ(page.Picture1(1).Screen().At(column, row3), forms::QBColor(Magenta)) << "on top";
 }
 
 }  // namespace

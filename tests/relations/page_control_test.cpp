@@ -2,7 +2,9 @@
 
 #include <algorithm>
 #include <array>
+#include <map>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "tests/relations/relations_test.h"
@@ -26,12 +28,31 @@ int TicksAcrossXAxis(const std::vector<Drawing>& lines) {
   }));
 }
 
+// Each window has its place between buttons, legends and the edge of the page.
+TEST_F(PageControlTest, NothingLiesOverAnythingElse) {
+  const auto overlap = [](const forms::Control& a, const forms::Control& b) {
+    return a.Left < b.Left + b.Width && b.Left < a.Left + a.Width && a.Top < b.Top + b.Height &&
+           b.Top < a.Top + a.Height;
+  };
+  for (const forms::Control* control : page.Children()) {
+    if (!control->Visible) continue;
+    EXPECT_TRUE(control->Left >= 0 && control->Left + control->Width <= page.Width &&
+                control->Top >= 0 && control->Top + control->Height <= page.Height)
+        << control->Name();
+    for (const forms::Control* other : page.Children()) {
+      if (other == control || !other->Visible) continue;
+      EXPECT_FALSE(overlap(*control, *other)) << control->Name() << " and " << other->Name();
+    }
+  }
+}
+
 TEST_F(PageControlTest, OpensWithLiveCanvasesInUnitsAndBlueCurves) {
   for (const int persistent : {1, 3, 5}) {
     EXPECT_FALSE(PersistentInView(persistent));
     EXPECT_TRUE(page.Picture1(persistent).AutoRedraw);
     EXPECT_FALSE(page.Picture1(persistent + 1).AutoRedraw);
     EXPECT_EQ(page.Picture1(persistent).Left(), page.Picture1(persistent + 1).Left());
+    EXPECT_EQ(page.Picture1(persistent).Top(), page.Picture1(persistent + 1).Top());
   }
   for (const forms::CommonDialog* curve :
        {&page.CommonDialog1, &page.CommonDialog3, &page.CommonDialog5}) {
@@ -42,16 +63,31 @@ TEST_F(PageControlTest, OpensWithLiveCanvasesInUnitsAndBlueCurves) {
   EXPECT_EQ(page.Picture1(2).Screen().At(266, 266), forms::Black) << "no axes on what is seen";
 }
 
-TEST_F(PageControlTest, UnitsNumberBothAxesWithoutTheOrigin) {
+// The axes with their heads, and on either of them a mark and a number for each integer.
+TEST_F(PageControlTest, UnitsMarkAndNumberBothAxes) {
+  using Segment = std::array<double, 4>;
+  std::vector<Segment> lines = {{-9, 0, 9, 0},     {0, 9, 0, -9},        {-0.15, 8.7, 0, 9},
+                                {0.15, 8.7, 0, 9}, {8.7, -0.15, 9.1, 0}, {8.7, 0.15, 9.1, 0}};
+  std::map<std::string, std::vector<std::pair<double, double>>> numbers = {{"x", {{9.2, -0.3}}},
+                                                                           {"y", {{-0.7, 9.7}}}};
+  for (int j = -8; j <= 8; ++j) lines.push_back({double(j), 0.1, double(j), -0.1});
+  for (int j = -8; j <= 8; ++j) {
+    lines.push_back({-0.1, double(j), 0.1, double(j)});
+    if (j == 0) continue;
+    numbers[(j < 0 ? "" : " ") + std::to_string(j) + " "] = {{j - 0.3, -0.4}, {-0.7, j + 0.3}};
+  }
   Press(&Form13::ApagarGráfico1);
   for (const int canvas : {1, 2}) {
-    const auto prints = Of(canvas, Drawing::Kind::Text);
-    ASSERT_EQ(prints.size(), 34u);
-    EXPECT_EQ(prints[0].Text, "-8 ");
-    EXPECT_DOUBLE_EQ(prints[0].X1, -8.3);
-    EXPECT_EQ(prints[8].Text, " 1 ") << "a mark at the origin has no number";
-    EXPECT_EQ(prints[32].Text, "x");
-    EXPECT_EQ(TicksAcrossXAxis(Of(canvas, Drawing::Kind::Line)), 17);
+    std::vector<Segment> drawn;
+    for (const Drawing& line : Of(canvas, Drawing::Kind::Line)) {
+      drawn.push_back({line.X1, line.Y1, line.X2, line.Y2});
+    }
+    EXPECT_EQ(drawn, lines);
+    std::map<std::string, std::vector<std::pair<double, double>>> printed;
+    for (const Drawing& text : Of(canvas, Drawing::Kind::Text)) {
+      printed[text.Text].emplace_back(text.X1, text.Y1);
+    }
+    EXPECT_EQ(printed, numbers);
   }
   EXPECT_TRUE(Drawn[3].empty());
 }
@@ -61,8 +97,11 @@ TEST_F(PageControlTest, RadiansHaveElevenMarksAndTenLabelsOnBothCanvases) {
   for (const int canvas : {3, 4}) {
     EXPECT_EQ(TicksAcrossXAxis(Of(canvas, Drawing::Kind::Line)), 11);
     EXPECT_EQ(Points(canvas).size(), 17u * 4);
-    auto texts = Texts(Of(canvas, Drawing::Kind::Text));
+    const auto prints = Of(canvas, Drawing::Kind::Text);
+    auto texts = Texts(prints);
     ASSERT_EQ(texts.size(), 28u);
+    EXPECT_NEAR(prints[18].X1, -5 * 3.14159 / 2 - 0.9, 1e-9);
+    EXPECT_EQ(prints[27].Y1, -0.6);
     texts.erase(texts.begin(), texts.begin() + 18);
     EXPECT_EQ(texts, (std::vector<std::string>{"-5p/2", "-2p", "-3p/2", "-p", "-p/2", "p/2", "p",
                                                "3p/2", "2p", "5p/2"}));

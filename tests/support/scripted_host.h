@@ -53,7 +53,7 @@ class ScriptedHost final : public forms::Host {
   std::vector<const forms::PictureBox*> Flushes;
   std::vector<std::string> Focused;  // the names of controls
   std::vector<forms::Color> ColorsOffered;
-  std::vector<forms::TextRun> Texts;  // twice each where the surface keeps its picture
+  std::vector<forms::TextRun> Texts;
   int DrawnCalls = 0;
 
   // Has the user do something in a step; several actions of one step run in the order given.

@@ -94,8 +94,8 @@ TEST_F(Canvas, DrawsAxesInRadiansOnTheKeptSurfaceOnly) {
   const forms::Font greek = {.Name = "symbol", .Size = 8, .Bold = false};
   EXPECT_EQ(std::count_if(host.Texts.begin(), host.Texts.end(),
                           [&](const forms::TextRun& run) { return run.Font == greek; }),
-            2 * 14)
-      << "on the screen and in the kept picture";
+            14)
+      << "once for the screen and the kept picture";
 }
 
 TEST_F(Canvas, WritesTheLettersInTheSizeOfTheLastNumbers) {

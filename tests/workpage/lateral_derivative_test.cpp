@@ -110,8 +110,9 @@ TEST_F(LateralDerivative, EndsAtTheLastQuotient) {
       {"x^2", "0.9", "1,8", "1,8"},     // here the walk from the left meets the point itself
       {"x^2", "-0.9", "-1,8", "-1,8"},  // and here the one from the right
       {"7", "-12", "0", "0"},
-      {"x^2", "2+", "0", "0"},               // no abscissa is taken for 0
-      {"10000.004*x", "0", "10000", "+ ¥"},  // the left one is compared when rounded
+      {"sqr(abs(x))/50", "0", "-6324,56", "6324,56"},  // at a distance of 1e-11
+      {"x^2", "2+", "0", "0"},                         // no abscissa is taken for 0
+      {"10000.004*x", "0", "10000", "+ ¥"},            // the left one is compared when rounded
       {"-10000.004*x", "0", "-10000", "- ¥"},
       {"100000*x", "0", "+ ¥", "+ ¥"},
       {"-100000*x", "0", "- ¥", "- ¥"},
