@@ -7,11 +7,14 @@
 #include <QImage>
 #include <QMessageBox>
 #include <QPainter>
+#include <QScreen>
 #include <QSettings>
 #include <QThread>
 #include <QWindow>
+#include <chrono>
 #include <cmath>
 #include <cstdlib>
+#include <thread>
 
 #include "desktop/look.h"
 #include "desktop/page_window.h"
@@ -21,8 +24,6 @@
 namespace clinorama::desktop {
 namespace {
 
-// Showing more pictures in a second than a screen does would only slow the drawing down.
-constexpr qint64 MillisecondsToPicture = 16;
 // How often it is tried to drop the windows that have left their pages.
 constexpr int MillisecondsToDropping = 500;
 
@@ -87,9 +88,13 @@ void QtHost::Drawn(forms::PictureBox& picture) {
 }
 
 void QtHost::Flush(forms::PictureBox& picture) {
-  if (sinceFlush_.elapsed() < MillisecondsToPicture) return;
-  if (PageWindow* window = WindowOf(picture)) window->ShowDrawingNow(picture);
-  sinceFlush_.restart();
+  PageWindow* window = WindowOf(picture);
+  if (window == nullptr) return;
+  window->ShowDrawingNow(picture);
+  const double frame = 1e9 / window->screen()->refreshRate();  // nanoseconds
+  std::this_thread::sleep_for(
+      std::chrono::nanoseconds(std::llround(frame) - sinceFlush_.nsecsElapsed()));
+  sinceFlush_.start();
 }
 
 void QtHost::PaintText(forms::Raster& raster, const forms::TextRun& run) {

@@ -39,7 +39,8 @@ class Host {
   virtual void Changed(Control& control) = 0;
   // Something was drawn since the surface's changed pixels were last taken.
   virtual void Drawn(PictureBox& picture) = 0;
-  // Put what was drawn on the screen now, as often as a screen can show it.
+  // Put what was drawn on the screen and wait until the screen shows it, for a frame of the screen;
+  // no events are delivered. It is called once for many points of a curve.
   virtual void Flush(PictureBox& picture) = 0;
   // Paint the text into a small white raster; the surface prints it from there.
   virtual void PaintText(Raster& raster, const TextRun& run) = 0;

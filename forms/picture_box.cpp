@@ -13,10 +13,17 @@ PictureBox::PictureBox(Container& parent, std::string name, const Rect& rect,
   AccessibleName = std::move(spokenName);
 }
 
-void PictureBox::Refresh() { Application::Current().TheHost().Flush(*this); }
+void PictureBox::Refresh() {
+  if (++newPoints_ < PointsToPicture) return;
+  newPoints_ = 0;
+  Application::Current().TheHost().Flush(*this);
+}
 
 void PictureBox::PropertyChanged(const PropertyBase& property) {
-  if (&property == &Visible && Visible) Restore();
+  if (&property == &Visible && Visible) {
+    newPoints_ = 0;
+    Restore();
+  }
   if (&property == &Width || &property == &Height) Resize(Width, Height);
   Container::PropertyChanged(property);
 }

@@ -58,7 +58,9 @@ class Monkey {
       std::fflush(stdout);
       std::_Exit(EXIT_SUCCESS);
     }
-    for (int batch = 1 + journal_.Below(6); batch > 0; --batch) ActOn(ChooseWindow());
+    for (int batch = journal_.OneIn(10) ? 40 : 1 + journal_.Below(6); batch > 0; --batch) {
+      ActOn(ChooseWindow());
+    }
   }
 
  private:

@@ -88,7 +88,7 @@ TEST_F(DrawingTest, LiveDrawing) {
     if (!dotsOnFunction) {
       EXPECT_EQ(Points(live).front().DrawWidth, Points(persistent).front().DrawWidth);
     }
-    EXPECT_EQ(host.Flushes.size(), Points(live).size());
+    EXPECT_EQ(host.Flushes.size(), Points(live).size() / forms::PointsToPicture);
     EXPECT_EQ(host.Steps, 0) << "nothing lets an event in";
   }
 }

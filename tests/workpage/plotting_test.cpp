@@ -88,7 +88,8 @@ TEST_F(Plotting, ShowsThePointsAsTheyArriveAndDoesNotGiveWay) {
   };
   host.Flushes.clear();
   Plot("3");
-  EXPECT_EQ(host.Flushes, std::vector<const PictureBox*>(points, &page.Picture2));
+  EXPECT_EQ(host.Flushes,
+            std::vector<const PictureBox*>(points / forms::PointsToPicture, &page.Picture2));
   EXPECT_EQ(host.Steps, 0);
   EXPECT_EQ(page.MousePointer, forms::MousePointer::Default);
   ExpectInFront(page.Picture1);
