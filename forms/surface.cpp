@@ -211,15 +211,22 @@ void Surface::PaintLine(double x1, double y1, double x2, double y2, Color pen) {
   for (int i = std::max(first, 0); i <= std::min(last, columns - 1); ++i) {
     if (dotted && std::abs(i - course.Start()) / period % 2 != 0) continue;
     const auto [top, run] = course.In(i);
-    Paint(steep ? PixelRect{top, i, run, 1} : PixelRect{i, top, 1, run}, pen);
+    if (run == 1) {
+      steep ? PaintPixel(top, i, pen) : PaintPixel(i, top, pen);
+    } else {
+      Paint(steep ? PixelRect{top, i, run, 1} : PixelRect{i, top, 1, run}, pen);
+    }
   }
 }
 
 void Surface::PaintDot(double x, double y, int size, Color pen) {
   const int left = FirstPixel(x, size);
   const int top = FirstPixel(y, size);
-  // The smallest dots are squares.
-  if (size <= 3) {
+  if (size == 1) {
+    PaintPixel(left, top, pen);
+    return;
+  }
+  if (size <= 3) {  // the smallest dots are squares
     Paint({left, top, size, size}, pen);
     return;
   }
@@ -292,15 +299,17 @@ void Surface::PaintLetters(const std::string& text) {
 // Nearly every drawing is of single pixels or of very few, so each is looked at alone, and nothing
 // is told about one that lies where the screen has changed already.
 void Surface::Paint(const PixelRect& rect, Color pen) {
-  const auto operation = static_cast<RasterOperation>(DrawMode);
   for (int y = rect.Y; y < rect.Y + rect.Height; ++y) {
-    for (int x = rect.X; x < rect.X + rect.Width; ++x) {
-      if (!Holds(screen_.Bounds(), x, y)) continue;
-      screen_.Apply(x, y, pen, operation);
-      if (AutoRedraw) kept_.Apply(x, y, pen, operation);
-      if (!Holds(dirty_, x, y)) Touch({x, y, 1, 1});
-    }
+    for (int x = rect.X; x < rect.X + rect.Width; ++x) PaintPixel(x, y, pen);
   }
+}
+
+void Surface::PaintPixel(int x, int y, Color pen) {
+  if (!Holds(screen_.Bounds(), x, y)) return;
+  const auto operation = static_cast<RasterOperation>(DrawMode);
+  screen_.Apply(x, y, pen, operation);
+  if (AutoRedraw) kept_.Apply(x, y, pen, operation);
+  if (!Holds(dirty_, x, y)) Touch({x, y, 1, 1});
 }
 
 // The rectangle lies in the raster.

@@ -130,6 +130,7 @@ class Surface {
   double DeviceX(double x) const;
   double DeviceY(double y) const;
   int DevicePixels(double logical) const;
+  void PaintPixel(int x, int y, Color pen);
   void Paint(const PixelRect& rect, Color pen);
   void PaintDot(double x, double y, int size, Color pen);
   void PaintLine(double x1, double y1, double x2, double y2, Color pen);
