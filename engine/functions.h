@@ -14,8 +14,8 @@ enum class Guard : std::uint8_t {
 
 // What a call gives: a value, or a guard that did not pass.
 struct Returned {
-  constexpr Returned(double y) : value(y) {}           // NOLINT(google-explicit-constructor)
-  constexpr Returned(Guard failed) : guard(failed) {}  // NOLINT(google-explicit-constructor)
+  constexpr Returned(double y) : value(y) {}
+  constexpr Returned(Guard failed) : guard(failed) {}
 
   double value = 0;
   Guard guard = Guard::Passed;
