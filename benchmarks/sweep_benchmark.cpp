@@ -44,11 +44,15 @@ int main(int argc, char* argv[]) {
   auto& page = clinorama::forms::The<clinorama::Form12>();
   page.Show();
   QElapsedTimer settling;  // the window manager's work is not what is measured
-  for (settling.start(); settling.elapsed() < 500;) QCoreApplication::processEvents();
+  for (settling.start(); settling.elapsed() < 500;) {
+    QCoreApplication::processEvents();
+  }
 
   PaintCounter paints;
   for (QWidget* window : QApplication::topLevelWidgets()) {
-    if (auto* canvas = window->findChild<QWidget*>("Picture1")) canvas->installEventFilter(&paints);
+    if (auto* canvas = window->findChild<QWidget*>("Picture1")) {
+      canvas->installEventFilter(&paints);
+    }
   }
   QElapsedTimer timer;
   timer.start();

@@ -36,7 +36,9 @@ bool Activation::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::MouseButtonPress:
     case QEvent::KeyPress:
     case QEvent::TouchBegin:
-      if (auto* widget = qobject_cast<QWidget*>(watched)) CameTo(widget->window());
+      if (auto* widget = qobject_cast<QWidget*>(watched)) {
+        CameTo(widget->window());
+      }
       break;
     default:
       break;

@@ -73,7 +73,9 @@ QFont SurfaceFontFor(const forms::Font& font, double density) {
   chosen.setPixelSize(PixelSize(font, density));
   // Axes are laid out for a symbol font that is narrower than the plain family: its labels stand
   // less than two pixels apart otherwise.
-  if (forms::IsSymbolFont(font)) chosen.setStretch(QFont::SemiCondensed);
+  if (forms::IsSymbolFont(font)) {
+    chosen.setStretch(QFont::SemiCondensed);
+  }
   if (chosen.pixelSize() < SmallestSmoothed) {
     chosen.setBold(false);
     chosen.setHintingPreference(QFont::PreferFullHinting);
@@ -93,9 +95,13 @@ QPixmap PictureFor(const std::string& name, QSize size, double ratio) {
   const QString file = QStringLiteral(":/%1.svg").arg(TextFor(name));
   const QString key = QStringLiteral("%1@%2x%3").arg(file).arg(pixels.width()).arg(pixels.height());
   QPixmap pixmap;
-  if (name.empty() || QPixmapCache::find(key, &pixmap)) return pixmap;
+  if (name.empty() || QPixmapCache::find(key, &pixmap)) {
+    return pixmap;
+  }
   QSvgRenderer renderer(file);
-  if (!renderer.isValid()) return pixmap;
+  if (!renderer.isValid()) {
+    return pixmap;
+  }
   pixmap = QPixmap(pixels);
   pixmap.fill(Qt::transparent);
   QPainter painter(&pixmap);

@@ -26,8 +26,12 @@ void TellOfTheDisplay(QtMsgType type, const QMessageLogContext& /*context*/, con
   if (type == QtFatalMsg && !started) {
     GiveUp("não há ecrã onde abrir as janelas. Inicie o programa num ambiente gráfico.");
   }
-  if (type == QtFatalMsg) GiveUp(qPrintable(text));
-  if (started) std::fprintf(stderr, "%s\n", qPrintable(text));
+  if (type == QtFatalMsg) {
+    GiveUp(qPrintable(text));
+  }
+  if (started) {
+    std::fprintf(stderr, "%s\n", qPrintable(text));
+  }
 }
 
 }  // namespace

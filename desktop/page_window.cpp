@@ -92,15 +92,21 @@ QWidget* PageWindow::WidgetOf(const forms::Control& control) const {
 }
 
 void PageWindow::ShowDrawing(forms::PictureBox& picture) {
-  if (QWidget* widget = WidgetOf(picture)) static_cast<SurfaceView*>(widget)->ShowSoon();
+  if (QWidget* widget = WidgetOf(picture)) {
+    static_cast<SurfaceView*>(widget)->ShowSoon();
+  }
 }
 
 void PageWindow::ShowDrawingNow(forms::PictureBox& picture) {
-  if (QWidget* widget = WidgetOf(picture)) static_cast<SurfaceView*>(widget)->ShowNow();
+  if (QWidget* widget = WidgetOf(picture)) {
+    static_cast<SurfaceView*>(widget)->ShowNow();
+  }
 }
 
 void PageWindow::Focus(forms::Control& control) {
-  if (QWidget* widget = WidgetOf(control)) widget->setFocus();
+  if (QWidget* widget = WidgetOf(control)) {
+    widget->setFocus();
+  }
 }
 
 void PageWindow::Leave() {
@@ -112,9 +118,13 @@ void PageWindow::Leave() {
     object->installEventFilter(this);
   };
   for (QWidget* widget : findChildren<QWidget*>()) {
-    if (widget->isWindow()) widget->close();  // an open menu
+    if (widget->isWindow()) {
+      widget->close();  // an open menu
+    }
   }
-  for (QObject* object : findChildren<QObject*>()) cutOff(object);
+  for (QObject* object : findChildren<QObject*>()) {
+    cutOff(object);
+  }
   cutOff(this);
 }
 
@@ -124,7 +134,9 @@ bool PageWindow::eventFilter(QObject* /*watched*/, QEvent* /*event*/) { return t
 // The page decides what closing means; where it unloads itself the window is hidden by that.
 void PageWindow::closeEvent(QCloseEvent* event) {
   event->ignore();
-  if (page_ == nullptr) return;
+  if (page_ == nullptr) {
+    return;
+  }
   forms::Page& page = *page_;
   forms::Application::Current().Run(page, [&page] { page.UserClose(); });
 }

@@ -46,7 +46,9 @@ double QtHost::Density() const { return qApp->devicePixelRatio(); }
 
 void QtHost::Shown(forms::Page& page) {
   std::unique_ptr<PageWindow>& window = windows_[&page];
-  if (window == nullptr) window = std::make_unique<PageWindow>(page);
+  if (window == nullptr) {
+    window = std::make_unique<PageWindow>(page);
+  }
   window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
   window->show();
   window->raise();
@@ -54,12 +56,16 @@ void QtHost::Shown(forms::Page& page) {
 }
 
 void QtHost::Hidden(forms::Page& page) {
-  if (PageWindow* window = WindowOf(page)) window->hide();
+  if (PageWindow* window = WindowOf(page)) {
+    window->hide();
+  }
 }
 
 void QtHost::Unloaded(forms::Page& page) {
   const auto found = windows_.find(&page);
-  if (found == windows_.end()) return;
+  if (found == windows_.end()) {
+    return;
+  }
   found->second->Leave();
   left_.push_back(std::move(found->second));
   windows_.erase(found);
@@ -69,7 +75,9 @@ void QtHost::Unloaded(forms::Page& page) {
 // A timer calls this, so no widget is in the middle of an event but those below on the stack whose
 // handlers wait, or that run an event loop of their own, as an open dialog does.
 void QtHost::DropLeftWindows() {
-  if (!forms::Application::Current().AtRest() || QThread::currentThread()->loopLevel() > 1) return;
+  if (!forms::Application::Current().AtRest() || QThread::currentThread()->loopLevel() > 1) {
+    return;
+  }
   left_.clear();
   dropping_.stop();
 }
@@ -80,16 +88,22 @@ PageWindow* QtHost::WindowOf(forms::Control& control) {
 }
 
 void QtHost::Changed(forms::Control& control) {
-  if (PageWindow* window = WindowOf(control)) window->Synchronise(control);
+  if (PageWindow* window = WindowOf(control)) {
+    window->Synchronise(control);
+  }
 }
 
 void QtHost::Drawn(forms::PictureBox& picture) {
-  if (PageWindow* window = WindowOf(picture)) window->ShowDrawing(picture);
+  if (PageWindow* window = WindowOf(picture)) {
+    window->ShowDrawing(picture);
+  }
 }
 
 void QtHost::Flush(forms::PictureBox& picture) {
   PageWindow* window = WindowOf(picture);
-  if (window == nullptr) return;
+  if (window == nullptr) {
+    return;
+  }
   window->ShowDrawingNow(picture);
   const double frame = 1e9 / window->screen()->refreshRate();  // nanoseconds
   std::this_thread::sleep_for(
@@ -107,7 +121,9 @@ void QtHost::PaintText(forms::Raster& raster, const forms::TextRun& run) {
 }
 
 void QtHost::SetFocus(forms::Control& control) {
-  if (PageWindow* window = WindowOf(control)) window->Focus(control);
+  if (PageWindow* window = WindowOf(control)) {
+    window->Focus(control);
+  }
 }
 
 // Before the window of the page whose handler asks for it, but no child of it: the window may go
@@ -117,7 +133,9 @@ void QtHost::StandBeforeThePage(QDialog& dialog) {
   dialog.setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint);
   forms::Page* page = forms::Application::Current().Running();
   const PageWindow* window = page == nullptr ? nullptr : WindowOf(*page);
-  if (window == nullptr || !window->isVisible()) return;
+  if (window == nullptr || !window->isVisible()) {
+    return;
+  }
   dialog.winId();  // makes the window that windowHandle gives
   dialog.windowHandle()->setTransientParent(window->windowHandle());
   dialog.adjustSize();
@@ -129,7 +147,9 @@ void QtHost::MsgBox(const std::string& text, int style, const std::string& title
   box.setWindowTitle(TextFor(title));
   box.setTextFormat(Qt::PlainText);
   box.setText(TextFor(text));
-  if (style == forms::InformationBox) box.setIcon(QMessageBox::Information);
+  if (style == forms::InformationBox) {
+    box.setIcon(QMessageBox::Information);
+  }
   box.setStandardButtons(QMessageBox::Ok);
   StandBeforeThePage(box);
   box.exec();
@@ -140,16 +160,22 @@ std::optional<forms::Color> QtHost::ShowColor(forms::Color now) {
   QColorDialog chooser(ColorFor(now));
   chooser.setOption(QColorDialog::DontUseNativeDialog);
   StandBeforeThePage(chooser);
-  if (chooser.exec() != QDialog::Accepted) return std::nullopt;
+  if (chooser.exec() != QDialog::Accepted) {
+    return std::nullopt;
+  }
   return ColorFrom(chooser.selectedColor());
 }
 
 void QtHost::Wait(int milliseconds) {
   QCoreApplication::processEvents();
-  if (milliseconds <= 0) return;
+  if (milliseconds <= 0) {
+    return;
+  }
   bool over = false;
   QTimer::singleShot(milliseconds, Qt::PreciseTimer, qApp, [&over] { over = true; });
-  while (!over) WaitForEvents();
+  while (!over) {
+    WaitForEvents();
+  }
 }
 
 void QtHost::WaitForEvents() { QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents); }

@@ -33,13 +33,17 @@ SpeedBar::SpeedBar(std::function<void(bool held)> onHold, QWidget* parent)
 
 void SpeedBar::Hold(bool held) {
   release_->stop();
-  if (held == held_) return;
+  if (held == held_) {
+    return;
+  }
   held_ = held;
   onHold_(held);
 }
 
 void SpeedBar::HoldKey(int key, bool pressed) {
-  if (!MovesTheBar(key)) return;
+  if (!MovesTheBar(key)) {
+    return;
+  }
   if (pressed) {
     Hold(true);
   } else {
@@ -51,10 +55,14 @@ bool SpeedBar::event(QEvent* event) {
   switch (event->type()) {
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
-      if (static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton) Hold(true);
+      if (static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton) {
+        Hold(true);
+      }
       break;
     case QEvent::MouseButtonRelease:
-      if (static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton) Hold(false);
+      if (static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton) {
+        Hold(false);
+      }
       break;
     case QEvent::KeyPress:
       HoldKey(static_cast<QKeyEvent*>(event)->key(), true);

@@ -27,7 +27,9 @@ void SurfaceView::ShowNow() { repaint(TakeChanged()); }
 // In logical pixels, with whatever a device pixel touches of them.
 QRect SurfaceView::TakeChanged() {
   const forms::PixelRect rect = picture_.TakeDirty();
-  if (rect.Empty()) return {};
+  if (rect.Empty()) {
+    return {};
+  }
   const double density = picture_.Density();
   return QRectF(rect.X / density, rect.Y / density, rect.Width / density, rect.Height / density)
       .toAlignedRect();

@@ -34,10 +34,14 @@ class LabelWidget : public QLabel {
 
  protected:
   void mouseReleaseEvent(QMouseEvent* event) override {
-    if (event->button() == Qt::LeftButton && rect().contains(event->pos())) label_.UserClick();
+    if (event->button() == Qt::LeftButton && rect().contains(event->pos())) {
+      label_.UserClick();
+    }
   }
   void mouseDoubleClickEvent(QMouseEvent* event) override {
-    if (event->button() == Qt::LeftButton) label_.UserDoubleClick();
+    if (event->button() == Qt::LeftButton) {
+      label_.UserDoubleClick();
+    }
   }
 
  private:
@@ -88,7 +92,9 @@ class FrameWidget : public QGroupBox {
     painter.setPen(palette().color(QPalette::Dark));
     painter.drawRoundedRect(edge, Rounding, Rounding);
     const QString caption = TextFor(frame_.Caption);
-    if (caption.isEmpty()) return;
+    if (caption.isEmpty()) {
+      return;
+    }
     const int captionWidth = metrics.horizontalAdvance(caption);
     painter.fillRect(CaptionLeft - CaptionGap, 0, captionWidth + 2 * CaptionGap, metrics.height(),
                      palette().color(QPalette::Window));
@@ -123,11 +129,15 @@ View ViewOf(forms::Label& label, QWidget& parent) {
             widget->setAutoFillBackground(bordered);
             QPalette palette;
             palette.setColor(QPalette::WindowText, ColorFor(label.ForeColor));
-            if (bordered) palette.setColor(QPalette::Window, Qt::white);
+            if (bordered) {
+              palette.setColor(QPalette::Window, Qt::white);
+            }
             widget->setPalette(palette);
             widget->setFont(FontFor(label.Font));
             Qt::Alignment alignment = AlignmentFor(label.Alignment);
-            if (bordered) alignment = (alignment & Qt::AlignHorizontal_Mask) | Qt::AlignVCenter;
+            if (bordered) {
+              alignment = (alignment & Qt::AlignHorizontal_Mask) | Qt::AlignVCenter;
+            }
             widget->setAlignment(alignment);
             widget->setText(TextFor(forms::VisibleText(label.Font, label.Caption)));
           }};
@@ -141,7 +151,9 @@ View ViewOf(forms::TextBox& box, QWidget& parent) {
   return {widget, [&box, widget] {
             widget->setFont(FontFor(box.Font));
             const QString text = TextFor(box.Text);
-            if (widget->text() != text) widget->setText(text);
+            if (widget->text() != text) {
+              widget->setText(text);
+            }
           }};
 }
 
@@ -198,7 +210,9 @@ View ViewOf(forms::Image& image, QWidget& parent) {
   }
   // Rendered when it is first to be seen: of the pages of a manual most never are.
   return {widget, [&image, widget] {
-            if (!image.Visible || !widget->pixmap(Qt::ReturnByValue).isNull()) return;
+            if (!image.Visible || !widget->pixmap(Qt::ReturnByValue).isNull()) {
+              return;
+            }
             widget->setPixmap(
                 PictureFor(image.Picture, PlaceOf(image).size(), widget->devicePixelRatioF()));
           }};

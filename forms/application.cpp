@@ -38,7 +38,9 @@ Application::~Application() {
 Application& Application::Current() { return *current; }
 
 void Application::Run(Page& page, const std::function<void()>& handler) {
-  if (!page.loaded_) return;
+  if (!page.loaded_) {
+    return;
+  }
   {
     const ForNow ofPage(page.handlers_, page.handlers_ + 1);
     const ForNow ofAll(depth_, depth_ + 1);
@@ -55,7 +57,9 @@ void Application::Run(Page& page, const std::function<void()>& handler) {
 }
 
 void Application::BecameActive(Page& page) {
-  if (active_ == &page || !page.loaded_) return;
+  if (active_ == &page || !page.loaded_) {
+    return;
+  }
   active_ = &page;
   Run(page, [&page] { page.Form_Activate(); });
 }
@@ -66,14 +70,20 @@ void Application::ShowOrHide(Page& page) {
     BecameActive(page);
     return;
   }
-  if (active_ == &page) active_ = nullptr;
+  if (active_ == &page) {
+    active_ = nullptr;
+  }
   host_.Hidden(page);
 }
 
 void Application::Unload(Page& page) {
   for (auto slot = pages_.begin(); slot != pages_.end(); ++slot) {
-    if (slot->second.get() != &page) continue;
-    if (active_ == &page) active_ = nullptr;
+    if (slot->second.get() != &page) {
+      continue;
+    }
+    if (active_ == &page) {
+      active_ = nullptr;
+    }
     page.loaded_ = false;
     host_.Unloaded(page);
     unloaded_.push_back(std::move(slot->second));

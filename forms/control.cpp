@@ -28,7 +28,9 @@ std::string Control::SpokenName() const {
   if (!AccessibleName().empty()) {
     return caption.empty() ? AccessibleName() : AccessibleName() + ": " + caption;
   }
-  if (!caption.empty()) return caption;
+  if (!caption.empty()) {
+    return caption;
+  }
   return ToolTipText().empty() ? name_ : ToolTipText();
 }
 
@@ -50,8 +52,12 @@ void Control::Fire(const Event& event) {
 
 Control* FindControl(Control& container, const std::string& name) {
   for (Control* child : container.Children()) {
-    if (child->Name() == name) return child;
-    if (Control* found = FindControl(*child, name)) return found;
+    if (child->Name() == name) {
+      return child;
+    }
+    if (Control* found = FindControl(*child, name)) {
+      return found;
+    }
   }
   return nullptr;
 }

@@ -14,11 +14,15 @@ Label::Label(Container& parent, std::string name, const Rect& rect, std::string 
     : Control(parent, std::move(name), rect), Caption(*this, std::move(caption)) {}
 
 void Label::UserClick() {
-  if (Clickable()) Fire(Click);
+  if (Clickable()) {
+    Fire(Click);
+  }
 }
 
 void Label::UserDoubleClick() {
-  if (Clickable()) Fire(DblClick);
+  if (Clickable()) {
+    Fire(DblClick);
+  }
 }
 
 TextBox::TextBox(Container& parent, std::string name, const Rect& rect, std::string text,
@@ -28,12 +32,16 @@ TextBox::TextBox(Container& parent, std::string name, const Rect& rect, std::str
 }
 
 void TextBox::UserType(const std::string& text) {
-  if (Reachable()) Text = text;
+  if (Reachable()) {
+    Text = text;
+  }
 }
 
 void TextBox::PropertyChanged(const PropertyBase& property) {
   Control::PropertyChanged(property);
-  if (&property == &Text) Fire(Change);
+  if (&property == &Text) {
+    Fire(Change);
+  }
 }
 
 CommandButton::CommandButton(Container& parent, std::string name, const Rect& rect,
@@ -45,7 +53,9 @@ CommandButton::CommandButton(Container& parent, std::string name, const Rect& re
 }
 
 void CommandButton::UserClick() {
-  if (Clickable()) Fire(Click);
+  if (Clickable()) {
+    Fire(Click);
+  }
 }
 
 OptionButton::OptionButton(Container& parent, std::string name, const Rect& rect,
@@ -55,17 +65,23 @@ OptionButton::OptionButton(Container& parent, std::string name, const Rect& rect
 }
 
 void OptionButton::UserClick() {
-  if (!Clickable() || Value) return;
+  if (!Clickable() || Value) {
+    return;
+  }
   Value = true;
   Fire(Click);
 }
 
 void OptionButton::PropertyChanged(const PropertyBase& property) {
   Control::PropertyChanged(property);
-  if (&property != &Value || !Value) return;
+  if (&property != &Value || !Value) {
+    return;
+  }
   for (Control* sibling : Parent()->Children()) {
     auto* option = dynamic_cast<OptionButton*>(sibling);
-    if (option != nullptr && option != this) option->Value = false;
+    if (option != nullptr && option != this) {
+      option->Value = false;
+    }
   }
 }
 
@@ -101,13 +117,17 @@ HScrollBar::HScrollBar(Container& parent, std::string name, const Rect& rect, in
 }
 
 void HScrollBar::UserScroll(int value) {
-  if (Reachable()) Value = std::clamp(value, std::min(Min, Max), std::max(Min, Max));
+  if (Reachable()) {
+    Value = std::clamp(value, std::min(Min, Max), std::max(Min, Max));
+  }
 }
 
 HScrollBar::~HScrollBar() { UserHold(false); }
 
 void HScrollBar::UserHold(bool held) {
-  if (held == held_) return;
+  if (held == held_) {
+    return;
+  }
   held_ = held;
   Application::Current().heldBars_ += held ? 1 : -1;
 }
@@ -123,7 +143,9 @@ Menu::Menu(Menu& parent, std::string name, std::string caption)
 }
 
 void Menu::UserClick() {
-  if (page_.Clickable()) Application::Current().Run(page_, [this] { Click(); });
+  if (page_.Clickable()) {
+    Application::Current().Run(page_, [this] { Click(); });
+  }
 }
 
 void CommonDialog::ShowColor() {

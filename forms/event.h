@@ -16,7 +16,9 @@ class Event {
   // Whether a handler is bound.
   bool Bound() const { return handler_ != nullptr; }
   void operator()() const {
-    if (handler_) handler_();
+    if (handler_) {
+      handler_();
+    }
   }
 
  private:

@@ -25,7 +25,9 @@ bool IsSymbolFont(const Font& font) {
 }
 
 std::string VisibleText(const Font& font, std::string text) {
-  if (!IsSymbolFont(font)) return text;
+  if (!IsSymbolFont(font)) {
+    return text;
+  }
   for (const auto& [written, shown] : SymbolSigns) {
     for (auto at = text.find(written); at != std::string::npos;
          at = text.find(written, at + shown.size())) {

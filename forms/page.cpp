@@ -30,19 +30,29 @@ void Page::UserClose() {
 void Page::Wait(int milliseconds) {
   Application& application = Application::Current();
   application.TheHost().Wait(milliseconds);
-  while (loaded_ && application.BarHeld()) application.TheHost().WaitForEvents();
-  if (!loaded_) throw PageEnded{};
+  while (loaded_ && application.BarHeld()) {
+    application.TheHost().WaitForEvents();
+  }
+  if (!loaded_) {
+    throw PageEnded{};
+  }
 }
 
 void Page::WaitFor(const bool& flag) {
-  while (loaded_ && !flag) Application::Current().TheHost().WaitForEvents();
-  if (!loaded_) throw PageEnded{};
+  while (loaded_ && !flag) {
+    Application::Current().TheHost().WaitForEvents();
+  }
+  if (!loaded_) {
+    throw PageEnded{};
+  }
 }
 
 bool Page::CanPause() const { return Application::Current().HasRoom(); }
 
 void Page::PropertyChanged(const PropertyBase& property) {
-  if (!loaded_) return;
+  if (!loaded_) {
+    return;
+  }
   if (&property == &Visible) {
     Application::Current().ShowOrHide(*this);
   } else {

@@ -14,7 +14,9 @@ PictureBox::PictureBox(Container& parent, std::string name, const Rect& rect,
 }
 
 void PictureBox::Refresh() {
-  if (++newPoints_ < PointsToPicture) return;
+  if (++newPoints_ < PointsToPicture) {
+    return;
+  }
   newPoints_ = 0;
   Application::Current().TheHost().Flush(*this);
 }
@@ -24,7 +26,9 @@ void PictureBox::PropertyChanged(const PropertyBase& property) {
     newPoints_ = 0;
     Restore();
   }
-  if (&property == &Width || &property == &Height) Resize(Width, Height);
+  if (&property == &Width || &property == &Height) {
+    Resize(Width, Height);
+  }
   Container::PropertyChanged(property);
 }
 

@@ -41,7 +41,9 @@ class Property final : public PropertyBase {
 
   // NOLINTNEXTLINE(misc-unconventional-assign-operator): a chain of assignments is not wanted.
   void operator=(T value) {
-    if (value_ == value) return;
+    if (value_ == value) {
+      return;
+    }
     value_ = std::move(value);
     Notify();
   }

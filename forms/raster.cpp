@@ -12,8 +12,12 @@ namespace {
 int Inked(int pixel, int cover, int ink, int ground) {
   constexpr int Full = 255;
   const auto mixed = [=](int from) { return from + (ink - from) * cover / Full; };
-  if (pixel < ink) return std::max(pixel, mixed(ground < ink ? ground : 0));
-  if (pixel > ink) return std::min(pixel, mixed(ground > ink ? ground : Full));
+  if (pixel < ink) {
+    return std::max(pixel, mixed(ground < ink ? ground : 0));
+  }
+  if (pixel > ink) {
+    return std::min(pixel, mixed(ground > ink ? ground : Full));
+  }
   return ink;
 }
 
@@ -40,8 +44,12 @@ PixelRect Intersection(const PixelRect& a, const PixelRect& b) {
 }
 
 PixelRect Union(const PixelRect& a, const PixelRect& b) {
-  if (a.Empty()) return b;
-  if (b.Empty()) return a;
+  if (a.Empty()) {
+    return b;
+  }
+  if (b.Empty()) {
+    return a;
+  }
   const int left = std::min(a.X, b.X);
   const int top = std::min(a.Y, b.Y);
   return {left, top, std::max(a.X + a.Width, b.X + b.Width) - left,
@@ -60,7 +68,9 @@ void Raster::Stamp(const Raster& stencil, int left, int top, Color ink, Color gr
   for (int y = box.Y; y < box.Y + box.Height; ++y) {
     for (int x = box.X; x < box.X + box.Width; ++x) {
       const Color cut = stencil.At(x - left, y - top);
-      if (cut == White) continue;
+      if (cut == White) {
+        continue;
+      }
       std::uint32_t& pixel = pixels_[Index(x, y)];
       pixel = Inked(pixel, cut.Rgb, ink, ground);
     }

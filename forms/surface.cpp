@@ -19,7 +19,9 @@ constexpr double PixelsToPoint = 96.0 / 72.0;
 // Coordinates are stored as 32-bit reals.
 double Reduced(double coordinate) {
   constexpr auto Largest = static_cast<double>(std::numeric_limits<float>::max());
-  if (!(std::abs(coordinate) <= Largest)) base::Raise(base::Overflow);
+  if (!(std::abs(coordinate) <= Largest)) {
+    base::Raise(base::Overflow);
+  }
   return static_cast<double>(static_cast<float>(coordinate));
 }
 
@@ -70,8 +72,12 @@ class Course {
   // A thin line goes by its heights in the middles of columns, but covers the pixels of its ends. A
   // wide one covers them anyway.
   Run In(int column) const {
-    if (run_ == 1 && column == start_) return FromEnd(y1_, y2_, column, end_);
-    if (run_ == 1 && column == end_) return FromEnd(y2_, y1_, column, start_);
+    if (run_ == 1 && column == start_) {
+      return FromEnd(y1_, y2_, column, end_);
+    }
+    if (run_ == 1 && column == end_) {
+      return FromEnd(y2_, y1_, column, start_);
+    }
     return {Row(column), run_};
   }
 
@@ -90,7 +96,9 @@ class Course {
   static Run Between(int a, int b) { return {std::min(a, b), std::abs(a - b) + 1}; }
   Run FromEnd(double y, double otherY, int column, int otherColumn) const {
     const int end = PixelOf(y);
-    if (column == otherColumn) return Between(end, PixelOf(otherY));
+    if (column == otherColumn) {
+      return Between(end, PixelOf(otherY));
+    }
     const int next = column < otherColumn ? column + 1 : column - 1;
     const int beside = next == otherColumn ? PixelOf(otherY) : Row(next);
     return Between(end, std::clamp(end, beside - 1, beside + 1));
@@ -163,7 +171,9 @@ void Surface::ClearPicture() {
   kept_.Fill(backColor_);
   screen_.Fill(backColor_);
   Touch(screen_.Bounds());
-  if (Observer) Tell({.What = DrawingOperation::Kind::Clear, .Kept = true});
+  if (Observer) {
+    Tell({.What = DrawingOperation::Kind::Clear, .Kept = true});
+  }
 }
 
 void Surface::Cls() {
@@ -172,7 +182,9 @@ void Surface::Cls() {
     return;
   }
   Restore();
-  if (Observer) Tell({.What = DrawingOperation::Kind::Clear});
+  if (Observer) {
+    Tell({.What = DrawingOperation::Kind::Clear});
+  }
 }
 
 void Surface::Restore() {
@@ -183,15 +195,18 @@ void Surface::Restore() {
 void Surface::Line(double x1, double y1, double x2, double y2, std::optional<Color> color) {
   const Color pen = color.value_or(ForeColor);
   PaintLine(DeviceX(x1), DeviceY(y1), DeviceX(x2), DeviceY(y2), pen);
-  if (Observer)
+  if (Observer) {
     Tell(
         {.What = DrawingOperation::Kind::Line, .X1 = x1, .Y1 = y1, .X2 = x2, .Y2 = y2, .Pen = pen});
+  }
 }
 
 void Surface::PSet(double x, double y, std::optional<Color> color) {
   const Color pen = color.value_or(ForeColor);
   PaintDot(DeviceX(x), DeviceY(y), DevicePixels(DrawWidth), pen);
-  if (Observer) Tell({.What = DrawingOperation::Kind::Point, .X1 = x, .Y1 = y, .Pen = pen});
+  if (Observer) {
+    Tell({.What = DrawingOperation::Kind::Point, .X1 = x, .Y1 = y, .Pen = pen});
+  }
 }
 
 // A line goes along its longer direction: in each column (or row) of pixels it covers one run of
@@ -209,7 +224,9 @@ void Surface::PaintLine(double x1, double y1, double x2, double y2, Color pen) {
 
   const int columns = steep ? screen_.Height() : screen_.Width();
   for (int i = std::max(first, 0); i <= std::min(last, columns - 1); ++i) {
-    if (dotted && std::abs(i - course.Start()) / period % 2 != 0) continue;
+    if (dotted && std::abs(i - course.Start()) / period % 2 != 0) {
+      continue;
+    }
     const auto [top, run] = course.In(i);
     if (run == 1) {
       steep ? PaintPixel(top, i, pen) : PaintPixel(i, top, pen);
@@ -254,22 +271,26 @@ void Surface::Circle(double x, double y, double radius) {
   for (int row = box.Y; row < box.Y + box.Height; ++row) {
     for (int column = box.X; column < box.X + box.Width; ++column) {
       const double distance = std::hypot(column + 0.5 - centreX, row + 0.5 - centreY);
-      if (std::abs(distance - deviceRadius) <= half) Paint({column, row, 1, 1}, ForeColor);
+      if (std::abs(distance - deviceRadius) <= half) {
+        Paint({column, row, 1, 1}, ForeColor);
+      }
     }
   }
-  if (Observer)
+  if (Observer) {
     Tell(
         {.What = DrawingOperation::Kind::Circle, .X1 = x, .Y1 = y, .X2 = radius, .Pen = ForeColor});
+  }
 }
 
 void Surface::Print(const std::string& text) {
   PaintLetters(VisibleText(Font, text));
-  if (Observer)
+  if (Observer) {
     Tell({.What = DrawingOperation::Kind::Text,
           .X1 = CurrentX,
           .Y1 = CurrentY,
           .Pen = ForeColor,
           .Text = text});
+  }
 }
 
 void Surface::PrintAt(double x, double y, const std::string& text) {
@@ -286,13 +307,17 @@ void Surface::PaintLetters(const std::string& text) {
                          NearestPixel(DeviceY(CurrentY)) - height,
                          (2 * static_cast<int>(text.size()) + 2) * height, 4 * height};
   const PixelRect inside = Intersection(box, screen_.Bounds());
-  if (inside.Empty()) return;
+  if (inside.Empty()) {
+    return;
+  }
   Raster stencil(box.Width, box.Height, White);
   PaintText(
       stencil,
       {.X = height, .Y = height, .Density = density_, .Text = text, .Font = Font, .Ink = Black});
   screen_.Stamp(stencil, box.X, box.Y, ForeColor, backColor_);
-  if (AutoRedraw) kept_.Stamp(stencil, box.X, box.Y, ForeColor, backColor_);
+  if (AutoRedraw) {
+    kept_.Stamp(stencil, box.X, box.Y, ForeColor, backColor_);
+  }
   Touch(inside);
 }
 
@@ -300,23 +325,33 @@ void Surface::PaintLetters(const std::string& text) {
 // is told about one that lies where the screen has changed already.
 void Surface::Paint(const PixelRect& rect, Color pen) {
   for (int y = rect.Y; y < rect.Y + rect.Height; ++y) {
-    for (int x = rect.X; x < rect.X + rect.Width; ++x) PaintPixel(x, y, pen);
+    for (int x = rect.X; x < rect.X + rect.Width; ++x) {
+      PaintPixel(x, y, pen);
+    }
   }
 }
 
 void Surface::PaintPixel(int x, int y, Color pen) {
-  if (!Holds(screen_.Bounds(), x, y)) return;
+  if (!Holds(screen_.Bounds(), x, y)) {
+    return;
+  }
   const auto operation = static_cast<RasterOperation>(DrawMode);
   screen_.Apply(x, y, pen, operation);
-  if (AutoRedraw) kept_.Apply(x, y, pen, operation);
-  if (!Holds(dirty_, x, y)) Touch({x, y, 1, 1});
+  if (AutoRedraw) {
+    kept_.Apply(x, y, pen, operation);
+  }
+  if (!Holds(dirty_, x, y)) {
+    Touch({x, y, 1, 1});
+  }
 }
 
 // The rectangle lies in the raster.
 void Surface::Touch(const PixelRect& rect) {
   const bool first = dirty_.Empty();
   dirty_ = Union(dirty_, rect);
-  if (first) ScreenChanged();
+  if (first) {
+    ScreenChanged();
+  }
 }
 
 PixelRect Surface::TakeDirty() {

@@ -17,7 +17,9 @@ inline constexpr double MarginCorner = 0.24;
 template <class Row, std::size_t Count>
 const Row& RowOfPage(const Row (&table)[Count], int page) {
   const Row* row = table;
-  while (row->Page != page) ++row;
+  while (row->Page != page) {
+    ++row;
+  }
   return *row;
 }
 

@@ -34,13 +34,17 @@ void Form9::AproximarPonto(const Side& side) {
 }
 
 void Form9::AproximarPontoDireita() {
-  for (const int ring : {7, 13}) Image1(ring).Visible = true;
+  for (const int ring : {7, 13}) {
+    Image1(ring).Visible = true;
+  }
   AproximarPonto(RightSide);
 }
 
 // The ring of X is shown on this side only, and stays.
 void Form9::AproximarPontoEsquerda() {
-  for (const int ring : {4, 8, 15}) Image1(ring).Visible = true;
+  for (const int ring : {4, 8, 15}) {
+    Image1(ring).Visible = true;
+  }
   AproximarPonto(LeftSide);
 }
 
@@ -80,7 +84,9 @@ void Form9::AproximarSemiSecanteDireita() {
     Picture1.Line(0, y, x, y);
     Picture1.Line(AbcissaA, OrdenadaA, x, OrdenadaA);
   });
-  for (const int marker : {5, 12, 1}) Image1(marker).Visible = false;
+  for (const int marker : {5, 12, 1}) {
+    Image1(marker).Visible = false;
+  }
 }
 
 // The semi-secant of page 11 is erased. The level of X is drawn as far as a, beyond X.

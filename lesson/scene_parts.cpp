@@ -43,7 +43,9 @@ std::unique_ptr<forms::Image> Form9::NovoMarcador(int index, const std::string& 
 }
 
 void Form9::OcultarMarcadores() {
-  for (int i = Image1.First(); i <= Image1.Last(); ++i) Image1(i).Visible = false;
+  for (int i = Image1.First(); i <= Image1.Last(); ++i) {
+    Image1(i).Visible = false;
+  }
 }
 
 void Form9::Mover(int marker, double x, double y, double corner) {
@@ -80,7 +82,9 @@ void Form9::DesenharEixos(const Eixos& axes) {
   Picture1.ForeColor = forms::Black;
   Picture1.AutoRedraw = true;
   Picture1.DrawStyle = forms::Solid;
-  for (const auto& [x1, y1, x2, y2] : axes.Segments) Picture1.Line(x1, y1, x2, y2);
+  for (const auto& [x1, y1, x2, y2] : axes.Segments) {
+    Picture1.Line(x1, y1, x2, y2);
+  }
   Picture1.PrintAt(axes.LabelX.X, axes.LabelX.Y, "x");
   Picture1.PrintAt(axes.LabelY.X, axes.LabelY.Y, "y");
 }
@@ -125,7 +129,9 @@ void Form9::Rotular(const LabelPlaces& places) {
   const std::pair<const char*, Point> labels[] = {{"a", places.a},     {"x", places.x},
                                                   {"f(a)", places.fa}, {"f(x)", places.fx},
                                                   {"A", places.A},     {"X", places.X}};
-  for (const auto& [text, place] : labels) Picture1.PrintAt(place.X, place.Y, text);
+  for (const auto& [text, place] : labels) {
+    Picture1.PrintAt(place.X, place.Y, text);
+  }
 }
 
 void Form9::MarcarPontoA() {

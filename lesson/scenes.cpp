@@ -31,7 +31,9 @@ template <class Function, class Accepts>
 void Form9::DesenharCurva(double from, double to, Function f, forms::Color color, Accepts accepts) {
   base::CountedLoop(from, to, CurveStep, [&](double x) {
     const double y = f(x);
-    if (accepts(y)) Picture1.PSet(x, y, color);
+    if (accepts(y)) {
+      Picture1.PSet(x, y, color);
+    }
   });
 }
 
@@ -98,7 +100,9 @@ void Form9::CenaPontosDireita() {
 // The semi-secant with the two legs of its slope. A and a lose their markers here.
 void Form9::CenaSemiSecanteDireita() {
   OcultarMarcadores();
-  for (const int marker : {5, 1, 12}) Image1(marker).Visible = true;
+  for (const int marker : {5, 1, 12}) {
+    Image1(marker).Visible = true;
+  }
   PrepararSemiSecante(RightSide);
   Picture1.DrawStyle = forms::Solid;
   DesenharSemiSecante();

@@ -102,7 +102,9 @@ std::unique_ptr<forms::Image> Form9::NovoTexto(int index, const std::string& nam
 
 void Form9::Form_Load() {
   OcultarMarcadores();
-  for (int i = Image4.First(); i <= Image4.Last(); ++i) Image4(i).Visible = false;
+  for (int i = Image4.First(); i <= Image4.Last(); ++i) {
+    Image4(i).Visible = false;
+  }
   Image4(0).Visible = true;
   Picture1.AutoRedraw = true;
   PaginaActiva = 0;
@@ -116,13 +118,19 @@ void Form9::Form_Load() {
 // more. Each page is compared afresh, so that when an action comes back and has had a later page
 // called into it, that page is shown once more from here.
 void Form9::Seguinte_Click() {
-  for (int i = Image4.First(); i <= Image4.Last(); ++i) Image4(i).Visible = false;
+  for (int i = Image4.First(); i <= Image4.Last(); ++i) {
+    Image4(i).Visible = false;
+  }
   Image5.Visible = false;
   ++PaginaActiva;
   Label3.Caption = std::to_string(PaginaActiva);
-  if (PaginaActiva > LastPage) PaginaActiva = LastPage;
+  if (PaginaActiva > LastPage) {
+    PaginaActiva = LastPage;
+  }
   for (int number = 1; number <= LastPage; ++number) {
-    if (PaginaActiva == number) MostrarPágina(number);
+    if (PaginaActiva == number) {
+      MostrarPágina(number);
+    }
   }
 }
 
@@ -130,9 +138,15 @@ void Form9::MostrarPágina(int number) {
   const Página& page = Páginas[number - 1];
   PermitirBotões(page.Buttons);
   Image4(number).Visible = true;
-  if (page.Action != nullptr) (this->*page.Action)();
-  if (page.Buttons.StillAfterwards) PermitirBotões(Botões::Still);
-  if (page.LabelAfterwards != nullptr) Label3.Caption = page.LabelAfterwards;
+  if (page.Action != nullptr) {
+    (this->*page.Action)();
+  }
+  if (page.Buttons.StillAfterwards) {
+    PermitirBotões(Botões::Still);
+  }
+  if (page.LabelAfterwards != nullptr) {
+    Label3.Caption = page.LabelAfterwards;
+  }
 }
 
 void Form9::PermitirBotões(const Botões& buttons) {
@@ -151,7 +165,9 @@ void Form9::Anterior_Click() {
   if (PaginaActiva > FirstOfSequence && PaginaActiva < FirstExample) {
     PaginaActiva = FirstOfSequence + 1;
   }
-  if (PaginaActiva > FirstExample && PaginaActiva % 2 == 0) --PaginaActiva;
+  if (PaginaActiva > FirstExample && PaginaActiva % 2 == 0) {
+    --PaginaActiva;
+  }
   PaginaActiva -= 2;
   Seguinte_Click();
 }
@@ -159,7 +175,9 @@ void Form9::Anterior_Click() {
 // A pause holds the motion because this handler runs nested in the motion's wait and does not
 // return.
 void Form9::Parar_Click() {
-  if (!CanPause()) return;
+  if (!CanPause()) {
+    return;
+  }
   Continuar.Visible = true;
   Continuar.Enabled = true;
   Parar.Visible = false;

@@ -17,7 +17,9 @@ void Form13::Executar(const Operation& operation) {
   for (const Preparation preparation : manners.Preparations) {
     switch (preparation) {
       case Preparation::RefuseEmpty:
-        if (Recusar(operation)) return;
+        if (Recusar(operation)) {
+          return;
+        }
         break;
       case Preparation::ShowHourglass:
         MousePointer = forms::MousePointer::Hourglass;
@@ -44,13 +46,19 @@ void Form13::Executar(const Operation& operation) {
     Persistent(window).Visible = true;
     Live(window).Visible = false;
   }
-  if (operation.AtEnd != nullptr) operation.AtEnd(*this);
+  if (operation.AtEnd != nullptr) {
+    operation.AtEnd(*this);
+  }
 }
 
 bool Form13::Recusar(const Operation& operation) {
-  if (!Função1.Blank()) return false;
+  if (!Função1.Blank()) {
+    return false;
+  }
   forms::MsgBox(operation.Manners.EmptyMessage, forms::InformationBox, "Relações");
-  if (operation.Manners.FocusWhenEmpty) Função1.SetFocus();
+  if (operation.Manners.FocusWhenEmpty) {
+    Função1.SetFocus();
+  }
   return true;
 }
 
@@ -79,9 +87,13 @@ void Form13::Traçar(const Operation& operation) {
         return !onZero && operation.Values.Holds(sample.Value) && mark.Test(sample) &&
                f.Recovery.PontoValido();
       });
-      if (!passed) continue;
+      if (!passed) {
+        continue;
+      }
       plot(persistent, sample, mark);
-      if (!operation.OnBothCanvases) continue;
+      if (!operation.OnBothCanvases) {
+        continue;
+      }
       plot(live, sample, mark);
       live.Refresh();
     }

@@ -39,7 +39,9 @@ constexpr RadianLabel RadianLabels[] = {
 
 template <class Mark>
 void ForEachNumber(Mark mark) {
-  for (int j = -LastNumber; j <= LastNumber; ++j) mark(j);
+  for (int j = -LastNumber; j <= LastNumber; ++j) {
+    mark(j);
+  }
 }
 
 void SetNumberFont(PictureBox& canvas) {
@@ -66,7 +68,9 @@ void MarkAbscissa(PictureBox& canvas, double x) { canvas.Line(x, TickHalf, x, -T
 void MarkOrdinate(PictureBox& canvas, double y) { canvas.Line(-TickHalf, y, TickHalf, y); }
 
 void NumberOrdinate(PictureBox& canvas, int j) {
-  if (j != 0) canvas.PrintAt(-0.7, j + 0.3, PrintedNumber(j));
+  if (j != 0) {
+    canvas.PrintAt(-0.7, j + 0.3, PrintedNumber(j));
+  }
 }
 
 // The letters take the size of the numbers before them.
@@ -83,7 +87,9 @@ void DrawUnits(PictureBox& canvas) {
   SetNumberFont(canvas);
   ForEachNumber([&](int j) {
     MarkAbscissa(canvas, j);
-    if (j != 0) canvas.PrintAt(j - 0.3, -0.4, PrintedNumber(j));
+    if (j != 0) {
+      canvas.PrintAt(j - 0.3, -0.4, PrintedNumber(j));
+    }
   });
   ForEachNumber([&](int j) {
     MarkOrdinate(canvas, j);
@@ -108,19 +114,25 @@ void DrawRadians(PictureBox& canvas) {
   });
   NameAxes(canvas);
   canvas.Font = {.Name = "symbol", .Size = 9, .Bold = false};
-  for (const RadianLabel& label : RadianLabels) canvas.PrintAt(label.Left, -0.6, label.Text);
+  for (const RadianLabel& label : RadianLabels) {
+    canvas.PrintAt(label.Left, -0.6, label.Text);
+  }
 }
 
 }  // namespace
 
 void Form13::GraduarTodas() {
-  for (int index = Picture1.First(); index <= Picture1.Last(); ++index) DrawUnits(Picture1(index));
+  for (int index = Picture1.First(); index <= Picture1.Last(); ++index) {
+    DrawUnits(Picture1(index));
+  }
 }
 
 void Form13::GraduarUnidades(const Window& window) {
   DrawUnits(Persistent(window));
   DrawUnits(Live(window));
-  if (window.UnitsSetButton) MostrarGraduação(window, false);
+  if (window.UnitsSetButton) {
+    MostrarGraduação(window, false);
+  }
 }
 
 void Form13::GraduarRadianos(const Window& window) {

@@ -14,7 +14,9 @@ Form13::Form13() : Page("Form13", {120, 330, 15165, 11100}, "CLINORAMA") {
     legend->Font = {.Bold = true};
     legend->ForeColor = forms::Blue;
   }
-  for (forms::Frame* frame : {&Frame2, &Frame4, &Frame5}) frame->ForeColor = forms::Blue;
+  for (forms::Frame* frame : {&Frame2, &Frame4, &Frame5}) {
+    frame->ForeColor = forms::Blue;
+  }
   Função1.AccessibleName = "Expressão analítica da função";
 
   for (const Operation& operation : Operations()) {
@@ -94,7 +96,9 @@ void Form13::Sair_Click() {
   Visible = false;
   AlternarGraduação(JanelaFunção);
   AlternarGraduação(JanelaPrimeira);
-  if (!JanelaPrimeira.Radianos) AlternarGraduação(JanelaSegunda);
+  if (!JanelaPrimeira.Radianos) {
+    AlternarGraduação(JanelaSegunda);
+  }
 }
 
 }  // namespace clinorama

@@ -40,7 +40,9 @@ class Recovery {
         break;
       case Convention::SkipSilently:
         base::Ignorar(run);
-        if (!done) pontoValido_ = false;
+        if (!done) {
+          pontoValido_ = false;
+        }
         break;
     }
     return done;

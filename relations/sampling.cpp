@@ -27,7 +27,9 @@ double Quotient(double yb, double ya, double xb, double xa) {
 class Cells {
  public:
   double& operator()(int index) {
-    if (index < 0 || index > LastIndex) base::Raise(base::IndexOutOfRange);
+    if (index < 0 || index > LastIndex) {
+      base::Raise(base::IndexOutOfRange);
+    }
     return values_[static_cast<std::size_t>(index)];
   }
 
@@ -100,7 +102,9 @@ bool Sampler::Solve(double x) {
 
 // Where the evaluation fails, to read its value would only fail in the same way once more.
 void Sampler::Evaluate(double x, double& y) {
-  if (Solve(x)) y = Solution();
+  if (Solve(x)) {
+    y = Solution();
+  }
 }
 
 void Values(Sampler& f, const Range& range, const Take& take) {
@@ -154,7 +158,9 @@ void TurningChords(Sampler& f, const Range& range, const Take& take) {
   Sense before = Sense::None;
   Chords(f, range, [&](const Sample& sample) {
     const Sense sense = sample.Value > sample.Reference ? Sense::Above : Sense::NotAbove;
-    if (before != Sense::None && sense != before) take(sample);
+    if (before != Sense::None && sense != before) {
+      take(sample);
+    }
     before = sense;
   });
 }

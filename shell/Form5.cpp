@@ -112,7 +112,9 @@ forms::CommandButton& Form5::AddButton(forms::Frame& frame, int number, double l
 }
 
 void Form5::Form_Load() {
-  if (Module1::OrigemExemplos != FromWorkPage) return;
+  if (Module1::OrigemExemplos != FromWorkPage) {
+    return;
+  }
   FrameFinitos.Visible = false;
   FrameInfinitos.Visible = false;
   FrameClinorama.Visible = true;

@@ -48,7 +48,9 @@ PageViewer::PageViewer(const ViewerKind& kind)
 
 void PageViewer::Form_Load() {
   page_ = OpeningPage();
-  for (int page = 1; page <= kind_.Pages; ++page) Image1(page).Visible = page == page_;
+  for (int page = 1; page <= kind_.Pages; ++page) {
+    Image1(page).Visible = page == page_;
+  }
   SetaE.Enabled = page_ != 1;
   Label2.Caption = std::to_string(page_);
 }
@@ -65,7 +67,9 @@ void PageViewer::SetaD_Click() {
     Turn(1);
     SetaE.Enabled = true;
   }
-  if (page_ == kind_.Pages) SetaD.Enabled = false;
+  if (page_ == kind_.Pages) {
+    SetaD.Enabled = false;
+  }
   Label2.Caption = std::to_string(page_);
 }
 
@@ -74,7 +78,9 @@ void PageViewer::SetaE_Click() {
     Turn(-1);
     SetaD.Enabled = true;
   }
-  if (page_ == 1) SetaE.Enabled = false;
+  if (page_ == 1) {
+    SetaE.Enabled = false;
+  }
   Label2.Caption = std::to_string(page_);
 }
 

@@ -56,9 +56,13 @@ void VisitGlyphs(std::string_view number, Visit visit) {
   while (!number.empty()) {
     const Glyph* found = nullptr;
     for (const Glyph& glyph : Glyphs) {
-      if (number.substr(0, glyph.Character.size()) == glyph.Character) found = &glyph;
+      if (number.substr(0, glyph.Character.size()) == glyph.Character) {
+        found = &glyph;
+      }
     }
-    if (found == nullptr) throw std::logic_error("no strokes for " + std::string(number));
+    if (found == nullptr) {
+      throw std::logic_error("no strokes for " + std::string(number));
+    }
     visit(*found);
     number.remove_prefix(found->Character.size());
   }
@@ -76,7 +80,9 @@ std::string HalvesOfPi(int halves) {
 double RoundStep(double least) {
   const double power = std::pow(10, std::floor(std::log10(least)));
   for (const double factor : {1.0, 2.0, 5.0}) {
-    if (factor * power >= least) return factor * power;
+    if (factor * power >= least) {
+      return factor * power;
+    }
   }
   return 10 * power;
 }
@@ -93,13 +99,17 @@ std::vector<Mark> MarksOf(const Interval& interval, const Graduation& graduation
   int every = 1;
   for (const int count : {1, 2, 4, 5, 10, 20}) {
     every = count;
-    if (count * step * unit >= space) break;
+    if (count * step * unit >= space) {
+      break;
+    }
   }
   std::vector<Mark> marks;
   const double tolerance = step / 1000;
   for (int i = static_cast<int>(std::ceil((interval.From - tolerance) / step));
        i * step <= interval.To + tolerance; ++i) {
-    if (i == 0) continue;
+    if (i == 0) {
+      continue;
+    }
     Mark mark = {.Value = i * step, .Number = {}};
     if (i % every == 0) {
       mark.Number = graduation.InPi ? HalvesOfPi(i) : base::NumberText(base::Round(mark.Value, 6));

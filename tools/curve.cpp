@@ -34,11 +34,15 @@ class Function {
 
  private:
   std::optional<double> Derivative(int order, double x) {
-    if (order == 0) return Value(x);
+    if (order == 0) {
+      return Value(x);
+    }
     const double before = x - Step;
     const std::optional<double> ya = Derivative(order - 1, before);
     const std::optional<double> yb = Derivative(order - 1, x);
-    if (!ya || !yb) return {};
+    if (!ya || !yb) {
+      return {};
+    }
     return (*yb - *ya) / (x - before);
   }
 
@@ -47,10 +51,14 @@ class Function {
       equation_.Var("x", x);
       equation_.Solve();
       const double y = equation_.Solution();
-      if (y == clsEquation::ForaDoDominio) return {};
+      if (y == clsEquation::ForaDoDominio) {
+        return {};
+      }
       return y;
     } catch (const ErroInterpretador& error) {
-      if (error.Number() == base::Overflow || error.Number() == base::DivisionByZero) return {};
+      if (error.Number() == base::Overflow || error.Number() == base::DivisionByZero) {
+        return {};
+      }
       throw;
     }
   }
@@ -72,7 +80,9 @@ class Tracer {
   void Visit(double x) {
     const Sample next = At(x);
     if (last_.Y && next.Y) {
-      if (!Joined(last_, next)) Break(last_, next);
+      if (!Joined(last_, next)) {
+        Break(last_, next);
+      }
     } else if (last_.Y || next.Y) {
       Break(last_, next);
     }
@@ -97,9 +107,13 @@ class Tracer {
   // Whether the change becomes small on the way, however steep it is.
   bool Joined(Sample a, Sample b) {
     while (Change(a, b) > SmallChange) {
-      if (b.X - a.X <= std::max(function_.JumpWidth(), Narrowest())) return false;
+      if (b.X - a.X <= std::max(function_.JumpWidth(), Narrowest())) {
+        return false;
+      }
       const Sample middle = At((a.X + b.X) / 2);
-      if (!middle.Y) return false;
+      if (!middle.Y) {
+        return false;
+      }
       (Change(a, middle) > Change(middle, b) ? b : a) = middle;
     }
     return true;
@@ -115,19 +129,27 @@ class Tracer {
     const bool jump = a.Y && b.Y;
     while (b.X - a.X > Narrowest()) {
       const Sample middle = At((a.X + b.X) / 2);
-      if (jump && !middle.Y) break;
+      if (jump && !middle.Y) {
+        break;
+      }
       const bool onTheLeft =
           jump ? Change(a, middle) < Change(middle, b) : middle.Y.has_value() == a.Y.has_value();
       (onTheLeft ? a : b) = middle;
     }
-    if (left.Y && Joined(left, a)) Add(a);
+    if (left.Y && Joined(left, a)) {
+      Add(a);
+    }
     EndLine();
-    if (right.Y && Joined(b, right)) Add(b);
+    if (right.Y && Joined(b, right)) {
+      Add(b);
+    }
   }
 
   // What leaves the window is drawn up to its edge.
   void Add(const Sample& sample) {
-    if (!sample.Y) return;
+    if (!sample.Y) {
+      return;
+    }
     const Point point = {sample.X, *sample.Y};
     const bool inside = window_.Holds(point.Y);
     if (previous_ && inside != window_.Holds(previous_->Y)) {
@@ -168,7 +190,9 @@ class Tracer {
     for (std::size_t i = 1; i < line_.size(); ++i) {
       length += std::hypot(line_[i].X - line_[i - 1].X, line_[i].Y - line_[i - 1].Y);
     }
-    if (length >= ShortestLine) lines_.push_back(line_);
+    if (length >= ShortestLine) {
+      lines_.push_back(line_);
+    }
     line_.clear();
   }
 
@@ -185,7 +209,9 @@ double Distance(const Point& point, const Point& a, const Point& b) {
   const double dx = b.X - a.X;
   const double dy = b.Y - a.Y;
   const double length = std::hypot(dx, dy);
-  if (length == 0) return std::hypot(point.X - a.X, point.Y - a.Y);
+  if (length == 0) {
+    return std::hypot(point.X - a.X, point.Y - a.Y);
+  }
   return std::abs(dx * (point.Y - a.Y) - dy * (point.X - a.X)) / length;
 }
 

@@ -43,31 +43,43 @@ template <class Number>
 void ReadPair(const std::string& field, Number& first, Number& second) {
   std::istringstream in(field);
   in >> first >> second;
-  if (in.fail() || !(in >> std::ws).eof()) throw std::runtime_error("not two numbers: " + field);
+  if (in.fail() || !(in >> std::ws).eof()) {
+    throw std::runtime_error("not two numbers: " + field);
+  }
 }
 
 Interval IntervalFrom(const std::string& field) {
   Interval interval;
   ReadPair(field, interval.From, interval.To);
-  if (interval.Length() <= 0) throw std::runtime_error("an empty range: " + field);
+  if (interval.Length() <= 0) {
+    throw std::runtime_error("an empty range: " + field);
+  }
   return interval;
 }
 
 Graduation GraduationFrom(const std::string& word) {
-  if (word == "pi") return {.InPi = true};
+  if (word == "pi") {
+    return {.InPi = true};
+  }
   const double step = word.empty() ? 0 : std::stod(word);
-  if (step < 0) throw std::runtime_error("not a graduation: " + word);
+  if (step < 0) {
+    throw std::runtime_error("not a graduation: " + word);
+  }
   return {.Step = step};
 }
 
 Graph GraphFrom(const std::string& line) {
   const std::vector<std::string> fields = FieldsOf(line);
-  if (fields.size() < 6 || fields.size() > 7) throw std::runtime_error("not six or seven fields");
+  if (fields.size() < 6 || fields.size() > 7) {
+    throw std::runtime_error("not six or seven fields");
+  }
   Graph graph;
   graph.File = fields[0];
   graph.Expression = fields[1];
   graph.Order = std::stoi(fields[2]);
-  if (graph.Order < 0 || graph.Order > 2) throw std::runtime_error("no such derivative");
+  if (graph.Order < 0 || graph.Order > 2) {
+    throw std::runtime_error("no such derivative");
+  }
   graph.X = IntervalFrom(fields[3]);
   graph.Y = IntervalFrom(fields[4]);
   ReadPair(fields[5], graph.Width, graph.Height);
@@ -84,11 +96,17 @@ Graph GraphFrom(const std::string& line) {
 void WriteIfNew(const std::filesystem::path& file, const std::string& text) {
   std::ostringstream before;
   before << std::ifstream(file, std::ios::binary).rdbuf();
-  if (before.str() == text) return;
-  if (file.has_parent_path()) std::filesystem::create_directories(file.parent_path());
+  if (before.str() == text) {
+    return;
+  }
+  if (file.has_parent_path()) {
+    std::filesystem::create_directories(file.parent_path());
+  }
   std::ofstream out(file, std::ios::binary);
   out << text;
-  if (!out.flush()) throw std::runtime_error("cannot write " + file.string());
+  if (!out.flush()) {
+    throw std::runtime_error("cannot write " + file.string());
+  }
 }
 
 // Returns how many lines could not be drawn.
@@ -97,7 +115,9 @@ int DrawAll(std::istream& list, const std::string& name, const std::filesystem::
   int number = 0;
   for (std::string line; std::getline(list, line);) {
     ++number;
-    if (line.empty() || line.front() == '#') continue;
+    if (line.empty() || line.front() == '#') {
+      continue;
+    }
     try {
       const Graph graph = GraphFrom(line);
       WriteIfNew(folder / graph.File, PictureOf(graph));
@@ -118,7 +138,9 @@ int main(int argc, char* argv[]) {
     std::cerr << "usage: draw_graph [list]\n";
     return 2;
   }
-  if (argc < 2) return DrawAll(std::cin, "standard input", {}) == 0 ? 0 : 1;
+  if (argc < 2) {
+    return DrawAll(std::cin, "standard input", {}) == 0 ? 0 : 1;
+  }
   std::ifstream list(argv[1]);
   if (!list) {
     std::cerr << "cannot read " << argv[1] << "\n";

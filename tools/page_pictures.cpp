@@ -34,7 +34,9 @@ QString folder;
 
 QWidget* WindowOf(const forms::Page& page) {
   for (QWidget* window : QApplication::topLevelWidgets()) {
-    if (window->objectName() == desktop::TextFor(page.Name()) && window->isVisible()) return window;
+    if (window->objectName() == desktop::TextFor(page.Name()) && window->isVisible()) {
+      return window;
+    }
   }
   return nullptr;
 }
@@ -45,9 +47,13 @@ QWidget* WindowOf(const forms::Page& page) {
 void Take(forms::Page& page, const char* name, const char* control = nullptr) {
   constexpr double WholePageScale = 2.0 / 3;
   QWidget* widget = WindowOf(page);
-  if (widget != nullptr && control != nullptr) widget = widget->findChild<QWidget*>(control);
+  if (widget != nullptr && control != nullptr) {
+    widget = widget->findChild<QWidget*>(control);
+  }
   QImage picture;
-  if (widget != nullptr) picture = widget->grab().toImage();
+  if (widget != nullptr) {
+    picture = widget->grab().toImage();
+  }
   if (control == nullptr && !picture.isNull()) {
     picture =
         picture.scaledToWidth(qRound(picture.width() * WholePageScale), Qt::SmoothTransformation);
@@ -70,7 +76,9 @@ class Camera : public desktop::QtHost {
   }
 
   void Wait(int /*milliseconds*/) override {
-    if (--stepsLeft_ == 0) take_();
+    if (--stepsLeft_ == 0) {
+      take_();
+    }
   }
 
  private:
@@ -116,7 +124,9 @@ void TakeRelations() {
     Take(page, name, control);
   }
   const auto press = [](std::initializer_list<forms::CommandButton*> buttons) {
-    for (forms::CommandButton* button : buttons) button->UserClick();
+    for (forms::CommandButton* button : buttons) {
+      button->UserClick();
+    }
   };
   press({&page.DesenharGráfico, &page.DesenharPrimeira, &page.DesenharSegunda});
   Take(page, "relacao");
@@ -143,7 +153,9 @@ void TakeLesson(Camera& camera) {
   Take(page, "conceito");
   Take(page, "conceito_opcoes", "Opções");
   constexpr int PageOfTheTurningSemiSecant = 8;
-  for (int number = 1; number < PageOfTheTurningSemiSecant; ++number) page.Seguinte.UserClick();
+  for (int number = 1; number < PageOfTheTurningSemiSecant; ++number) {
+    page.Seguinte.UserClick();
+  }
   camera.TakeInMotion(
       150, [&page] { page.Seguinte.UserClick(); }, [&page] { Take(page, "conceito_movimento"); });
   page.UserClose();

@@ -67,7 +67,9 @@ class Drawing {
   static double Sharp(double pixels) { return std::floor(pixels) + 0.5; }
 
   void Stroke(const std::string& path, const char* color, double width) {
-    if (path.empty()) return;
+    if (path.empty()) {
+      return;
+    }
     out_ << "  <path d=\"" << path << "\" fill=\"none\" stroke=\"" << color << "\" stroke-width=\""
          << Length(width) << "\" stroke-linecap=\"round\" stroke-linejoin=\"round\"/>\n";
   }
@@ -89,7 +91,9 @@ class Drawing {
     const double half = frame_.Small() ? MarkLength / 4 : MarkLength / 2;
     for (const Mark& mark : MarksOf(graph_.X, graph_.GraduationX, frame_.UnitX(), SpaceAcross)) {
       const double x = Sharp(frame_.Across(mark.Value));
-      if (x > frame_.Width() - frame_.Margin() - ArrowLength / 2) continue;
+      if (x > frame_.Width() - frame_.Margin() - ArrowLength / 2) {
+        continue;
+      }
       marks += "M" + Place({x, originY_ - half}) + "v" + Length(2 * half);
       const double away = NumberGap + NumberHeight / 2;
       const double aside = NumberAside + NumberWidth(mark.Number) / 2;
@@ -102,7 +106,9 @@ class Drawing {
     }
     for (const Mark& mark : MarksOf(graph_.Y, graph_.GraduationY, frame_.UnitY(), SpaceDown)) {
       const double y = Sharp(frame_.Down(mark.Value));
-      if (y < frame_.Margin() + ArrowLength / 2) continue;
+      if (y < frame_.Margin() + ArrowLength / 2) {
+        continue;
+      }
       marks += "M" + Place({originX_ - half, y}) + "h" + Length(2 * half);
       const double aside = NumberAside + NumberWidth(mark.Number) / 2;
       const double away = NumberGap + NumberHeight / 2;
@@ -117,12 +123,16 @@ class Drawing {
 
   // The number about the first of the places where it is free; nothing where none is.
   std::string NumberAt(const std::string& number, std::initializer_list<Point> places) const {
-    if (number.empty() || frame_.Small()) return {};
+    if (number.empty() || frame_.Small()) {
+      return {};
+    }
     const double width = NumberWidth(number);
     for (const Point& place : places) {
       const Box box = {place.X - width / 2, place.Y - NumberHeight / 2, place.X + width / 2,
                        place.Y + NumberHeight / 2};
-      if (Free(box)) return NumberStrokes(number, {box.Left, box.Top});
+      if (Free(box)) {
+        return NumberStrokes(number, {box.Left, box.Top});
+      }
     }
     return {};
   }
@@ -135,8 +145,12 @@ class Drawing {
     }
     const Box air = {box.Left - NumberAir, box.Top - NumberAir, box.Right + NumberAir,
                      box.Bottom + NumberAir};
-    if (air.Left < originX_ && originX_ < air.Right) return false;
-    if (air.Top < originY_ && originY_ < air.Bottom) return false;
+    if (air.Left < originX_ && originX_ < air.Right) {
+      return false;
+    }
+    if (air.Top < originY_ && originY_ < air.Bottom) {
+      return false;
+    }
     for (const Polyline& line : curve_) {
       if (std::any_of(line.begin(), line.end(),
                       [&](const Point& point) { return air.Holds(point); })) {

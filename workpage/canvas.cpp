@@ -27,7 +27,9 @@ constexpr double RadianLabelDepth = -6;  // pixels from the axis to the top of a
 template <class Mark>
 void WalkBothWays(double min, double max, double step, Mark mark) {
   const auto unlessOrigin = [&mark](double i) {
-    if (i != 0) mark(i);
+    if (i != 0) {
+      mark(i);
+    }
   };
   CountedLoop(0, std::floor(max), step, unlessOrigin);
   CountedLoop(0, std::floor(min), -step, unlessOrigin);

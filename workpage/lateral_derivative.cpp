@@ -100,8 +100,12 @@ void Form12::DerivadaDireita_Click() {
 // was, and so does a division by a distance of zero. A bad expression therefore shows horizontal
 // semi-secants with the value 0, and no message.
 void Form12::Derivar(const Side& side) {
-  if (side.DrawsOnScreenOnly) Picture1.AutoRedraw = false;
-  if (Recusar(side)) return;
+  if (side.DrawsOnScreenOnly) {
+    Picture1.AutoRedraw = false;
+  }
+  if (Recusar(side)) {
+    return;
+  }
 
   BloquearComandos();
   clsEquation equation;
@@ -157,7 +161,9 @@ void Form12::Derivar(const Side& side) {
   x = a + side.Direction * LastDistance;
   evaluate();
   findEnd();
-  if (side.ComparesRoundedQuotient) showQuotient();
+  if (side.ComparesRoundedQuotient) {
+    showQuotient();
+  }
   Ignorar([&] {
     const double last =
         side.ComparesRoundedQuotient ? base::NumberFrom(side.Value.Caption()) : quotient();
@@ -197,13 +203,17 @@ bool Form12::Recusar(const Side& side) {
   }
 
   const auto refusePoint = [this](const char* text) {
-    if (PontoAceite) return false;
+    if (PontoAceite) {
+      return false;
+    }
     PontoAceite = true;
     forms::MsgBox(text, forms::InformationBox, Title);
     return true;
   };
   TestarDominio();
-  if (refusePoint("Esse ponto não pertence ao domínio da função.")) return true;
+  if (refusePoint("Esse ponto não pertence ao domínio da função.")) {
+    return true;
+  }
   (this->*side.Test)();
   return refusePoint(side.NoDerivative);
 }
@@ -235,7 +245,9 @@ void Form12::TestarDominio() {
     }
     const double left = ValueAt(equation, Função1.Text(), abscissa() - SideDistance);
     const double right = ValueAt(equation, Função1.Text(), abscissa() + SideDistance);
-    if (std::abs(left) > LargestSide || std::abs(right) > LargestSide) PontoAceite = false;
+    if (std::abs(left) > LargestSide || std::abs(right) > LargestSide) {
+      PontoAceite = false;
+    }
   });
 }
 
@@ -247,7 +259,9 @@ void Form12::TestarLado(double distance) {
   ComRecuperação([this, distance](clsEquation& equation) {
     const double a = ValueOf(equation, Abcissa.Text());
     ValueAt(equation, Função1.Text(), a + distance);
-    if (CodeBetween(FirstFailureCode, LastFailureCode)) PontoAceite = false;
+    if (CodeBetween(FirstFailureCode, LastFailureCode)) {
+      PontoAceite = false;
+    }
   });
 }
 

@@ -117,7 +117,9 @@ void Form12::PermitirComandos(bool allowed) {
 // A pause holds the motion because this handler runs nested in the motion's wait and does not
 // return. Without a motion it simply waits for the other button.
 void Form12::Pausar(forms::CommandButton& stop, forms::CommandButton& resume) {
-  if (!CanPause()) return;
+  if (!CanPause()) {
+    return;
+  }
   resume.Visible = true;
   stop.Visible = false;
   EmMovimento = false;

@@ -37,7 +37,9 @@ void Form12::DesenharGráfico_Click() {
       equation.Solve();
       const double y = equation.Solution();
       // A point outside the domain has the value 1000 and falls out here too.
-      if (y <= From || y >= To) return;
+      if (y <= From || y >= To) {
+        return;
+      }
       Picture1.PSet(x, y, CommonDialog1.Color);
       Picture2.PSet(x, y, CommonDialog1.Color);
       Picture2.Refresh();

@@ -35,7 +35,9 @@ TEST(NumberText, IsTheSameOnEveryMachine) {
   ExpectTexts();
   std::locale::global(before);
   for (const char* name : {"pt_PT.UTF-8", "de_DE.UTF-8"}) {
-    if (std::setlocale(LC_ALL, name) != nullptr) ExpectTexts();
+    if (std::setlocale(LC_ALL, name) != nullptr) {
+      ExpectTexts();
+    }
   }
   std::setlocale(LC_ALL, "C");
 }
@@ -48,7 +50,9 @@ TEST(NumberText, IsPrintedWithBlanksAroundIt) {
 TEST(NumberText, IsReadWithBlanksAround) {
   constexpr std::pair<double, const char*> texts[] = {{1, "  1 "}, {0.5, ",5"}, {-0.25, "-,25"},
                                                       {5, "+5"},   {3, "3,"},   {2e-3, "2E-3"}};
-  for (const auto& [value, text] : texts) EXPECT_EQ(base::NumberFrom(text), value) << text;
+  for (const auto& [value, text] : texts) {
+    EXPECT_EQ(base::NumberFrom(text), value) << text;
+  }
 }
 
 TEST(NumberText, FailsOnAnyOtherText) {

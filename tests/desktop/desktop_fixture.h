@@ -16,7 +16,9 @@ class DesktopTest : public testing::Test {
  protected:
   static QWidget* Window(const char* page) {
     for (QWidget* window : QApplication::topLevelWidgets()) {
-      if (window->objectName() == QString::fromUtf8(page) && !window->isHidden()) return window;
+      if (window->objectName() == QString::fromUtf8(page) && !window->isHidden()) {
+        return window;
+      }
     }
     return nullptr;
   }

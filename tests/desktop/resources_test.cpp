@@ -17,7 +17,9 @@ using forms::The;
 
 // The name of the picture that a control shows; empty where it shows none.
 std::string PictureOf(const forms::Control& control) {
-  if (const auto* image = dynamic_cast<const forms::Image*>(&control)) return image->Picture;
+  if (const auto* image = dynamic_cast<const forms::Image*>(&control)) {
+    return image->Picture;
+  }
   if (const auto* button = dynamic_cast<const forms::CommandButton*>(&control)) {
     return button->Picture;
   }
@@ -40,7 +42,9 @@ TEST_F(DesktopTest, EveryPictureThatAPageShowsIsThere) {
   const forms::Page* const pages[] = {&The<Form2>(),  &The<Form3>(),  &The<Form4>(),
                                       &The<Form5>(),  &The<Form6>(),  &The<Form9>(),
                                       &The<Form11>(), &The<Form12>(), &The<Form13>()};
-  for (const forms::Page* page : pages) ExpectPictures(*page);
+  for (const forms::Page* page : pages) {
+    ExpectPictures(*page);
+  }
 }
 
 }  // namespace

@@ -30,7 +30,9 @@ using forms::The;
 int Pixels(const QImage& image, QColor color) {
   int count = 0;
   for (int y = 0; y < image.height(); ++y) {
-    for (int x = 0; x < image.width(); ++x) count += image.pixelColor(x, y) == color;
+    for (int x = 0; x < image.width(); ++x) {
+      count += image.pixelColor(x, y) == color;
+    }
   }
   return count;
 }
@@ -40,7 +42,9 @@ struct BoxCloser {
   BoxCloser() {
     QTimer::singleShot(0, [this] {
       auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-      if (box == nullptr) return;
+      if (box == nullptr) {
+        return;
+      }
       Text = box->text();
       Title = box->windowTitle();
       Icon = box->icon();
@@ -244,10 +248,14 @@ TEST_F(DesktopTest, TheColourChooserSpeaksPortugueseAndWritesNoFile) {
     auto* dialog = qobject_cast<QColorDialog*>(QApplication::activeModalWidget());
     ASSERT_NE(dialog, nullptr);
     title = dialog->windowTitle();
-    for (const auto* label : dialog->findChildren<QLabel*>()) texts.insert(label->text().trimmed());
+    for (const auto* label : dialog->findChildren<QLabel*>()) {
+      texts.insert(label->text().trimmed());
+    }
     for (auto* button : dialog->findChildren<QPushButton*>()) {
       texts.insert(button->text());
-      if (button->text().startsWith("&Juntar")) button->click();
+      if (button->text().startsWith("&Juntar")) {
+        button->click();
+      }
     }
     dialog->reject();
   });
@@ -270,7 +278,9 @@ TEST_F(DesktopTest, TheColourChooserSpeaksPortugueseAndWritesNoFile) {
                                   "&HTML:",
                                   "&Juntar às cores personalizadas",
                                   "&Escolher uma cor do ecrã"};
-  for (const QString& text : texts - expected) ADD_FAILURE() << text.toStdString();
+  for (const QString& text : texts - expected) {
+    ADD_FAILURE() << text.toStdString();
+  }
 }
 
 }  // namespace

@@ -54,8 +54,12 @@ TEST_F(Controls, MarkOneOptionOfAContainer) {
 TEST_F(Controls, TellOfEachOtherTextByUserOrPage) {
   std::vector<std::string> seen;
   page.Text1.Change = [&] { seen.push_back(page.Text1.Text); };
-  for (const char* text : {"2", "2", "1"}) page.Text1.UserType(text);
-  for (const char* text : {"3", "3"}) page.Text1.Text = text;
+  for (const char* text : {"2", "2", "1"}) {
+    page.Text1.UserType(text);
+  }
+  for (const char* text : {"3", "3"}) {
+    page.Text1.Text = text;
+  }
   page.Text1.Enabled = false;
   page.Text1.UserType("4");
   page.Text1.Text = "5";
@@ -99,7 +103,9 @@ TEST_F(Controls, FormTreesOfMenusAndControls) {
   EXPECT_EQ(forms::FindControl(page.Frame2, "OptionA"), nullptr);
   EXPECT_EQ(page.Image1.Last(), 4);
   EXPECT_EQ(page.Image1(3).Parent(), &page.Picture1);
-  for (const int outside : {1, 5}) EXPECT_THROW(page.Image1(outside), std::out_of_range);
+  for (const int outside : {1, 5}) {
+    EXPECT_THROW(page.Image1(outside), std::out_of_range);
+  }
 }
 
 TEST_F(Controls, KeepTheColorWhenTheUserCancels) {

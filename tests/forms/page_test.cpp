@@ -30,7 +30,9 @@ class Pages : public ApplicationTest {
   std::function<void()> Motion(const std::string& name, int steps) {
     return [this, &page = The<SamplePage>(), name, steps] {
       const Leaving leaving{log, name + " left"};
-      for (int i = 0; i < steps; ++i) page.Wait(5);
+      for (int i = 0; i < steps; ++i) {
+        page.Wait(5);
+      }
       log.push_back(name + " finished");
     };
   }
@@ -150,7 +152,9 @@ TEST_F(Pages, IgnoreClicksWhereHandlersAreNestedTooDeeply) {
   auto& page = The<SamplePage>();
   bool resumed = false;
   page.Command2.Click = [&] {
-    if (page.CanPause()) page.WaitFor(resumed);
+    if (page.CanPause()) {
+      page.WaitFor(resumed);
+    }
     log.push_back("second left");
   };
   page.OptionA.Click = [&] { page.Command1.UserClick(); };

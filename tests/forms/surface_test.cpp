@@ -41,8 +41,12 @@ struct Segment {
 std::string Seen(const Raster& raster) {
   std::string text;
   for (int y = 0; y < raster.Height(); ++y) {
-    if (y > 0) text += ' ';
-    for (int x = 0; x < raster.Width(); ++x) text += raster.At(x, y) == forms::White ? '.' : '#';
+    if (y > 0) {
+      text += ' ';
+    }
+    for (int x = 0; x < raster.Width(); ++x) {
+      text += raster.At(x, y) == forms::White ? '.' : '#';
+    }
   }
   return text;
 }
@@ -131,7 +135,9 @@ TEST(Surface, WidensPensAndDashesToWholePixels) {
       const std::string rows = seen.substr(seen.find('#'));
       const std::size_t row = static_cast<std::size_t>(surface.Screen().Width()) + 1;
       int count = 0;
-      while (rows[static_cast<std::size_t>(count) * row] == '#') ++count;
+      while (rows[static_cast<std::size_t>(count) * row] == '#') {
+        ++count;
+      }
       return count;
     };
     EXPECT_EQ(blackRows(0, {0, 10, 20, 10}), expected[i].first) << Densities[i];
@@ -179,7 +185,9 @@ TEST(Surface, DrawsLinesOnOneVerticalOverEachOther) {
       for (const double near : {3e-13, -3e-13, 1e-9, -1e-9}) {
         surface.Line(0, 2, near, 9);
         surface.Line(near, -8, near, 8);
-        for (int y = -8; y <= 8; ++y) surface.PSet(near, y);
+        for (int y = -8; y <= 8; ++y) {
+          surface.PSet(near, y);
+        }
       }
       EXPECT_EQ(Seen(surface.Screen()), line) << size << " at " << density;
     }
@@ -226,7 +234,9 @@ TEST(Surface, ClipsFarEndsWithoutBendingTheLine) {
   for (const auto& [farLine, nearLine] : cases) {
     Surface farSurface(3000, 3000, 1);
     Surface nearSurface(3000, 3000, 1);
-    for (Surface* surface : {&farSurface, &nearSurface}) surface->Scale(-10, 10, 10, -10);
+    for (Surface* surface : {&farSurface, &nearSurface}) {
+      surface->Scale(-10, 10, 10, -10);
+    }
     farLine.DrawOn(farSurface);
     nearLine.DrawOn(nearSurface);
     EXPECT_TRUE(Seen(farSurface.Screen()) == Seen(nearSurface.Screen())) << farLine.X2;

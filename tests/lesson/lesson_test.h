@@ -35,14 +35,18 @@ class LessonTest : public ApplicationTest {
   std::vector<forms::DrawingOperation> Drawn(Kind kind) const {
     std::vector<forms::DrawingOperation> chosen;
     for (const auto& operation : drawn) {
-      if (operation.What == kind) chosen.push_back(operation);
+      if (operation.What == kind) {
+        chosen.push_back(operation);
+      }
     }
     return chosen;
   }
 
   // Walks forwards; the motions on the way run to their ends.
   void GoTo(int number) {
-    for (int i = std::stoi(page.Label3.Caption()); i < number; ++i) page.Seguinte.UserClick();
+    for (int i = std::stoi(page.Label3.Caption()); i < number; ++i) {
+      page.Seguinte.UserClick();
+    }
     host.Steps = 0;
     host.WaitedMilliseconds = 0;
     Record();
@@ -56,7 +60,9 @@ class LessonTest : public ApplicationTest {
   std::string EnabledButtons() const {
     std::string letters;
     for (const auto* button : {&page.Anterior, &page.Seguinte, &page.Parar, &page.Continuar}) {
-      if (button->Enabled) letters += button->Name().front();
+      if (button->Enabled) {
+        letters += button->Name().front();
+      }
     }
     return letters;
   }
@@ -65,7 +71,9 @@ class LessonTest : public ApplicationTest {
   std::string Texts() const {
     std::string numbers = page.Image5.Visible ? "definition " : "";
     for (int i = page.Image4.First(); i <= page.Image4.Last(); ++i) {
-      if (page.Image4(i).Visible) numbers += std::to_string(i);
+      if (page.Image4(i).Visible) {
+        numbers += std::to_string(i);
+      }
     }
     return numbers;
   }

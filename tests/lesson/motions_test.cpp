@@ -28,7 +28,9 @@ TEST_F(LessonTest, StopsBesideThePointAndNeverAtIt) {
     page.Seguinte.UserClick();
     EXPECT_EQ(host.Steps, steps) << number;
     EXPECT_EQ(host.WaitedMilliseconds, 5 * steps);
-    if (lastX == 0) continue;
+    if (lastX == 0) {
+      continue;
+    }
     auto verticals = Drawn(Kind::Line);
     std::erase_if(verticals, [](const auto& line) { return line.Y2 != 0; });
     EXPECT_DOUBLE_EQ(verticals.back().X1, lastX) << number;
@@ -84,7 +86,9 @@ TEST_F(LessonTest, InvertsTheOldSemiSecantOnTheRightAndErasesItOnTheLeft) {
     EXPECT_EQ(PixelAt(seenX, seenY), forms::Blue) << number;
     bool first = true;
     page.Picture1.Observer = [&, expected = after, drawMode = mode](const auto& operation) {
-      if (operation.What != Kind::Line || !first) return;
+      if (operation.What != Kind::Line || !first) {
+        return;
+      }
       first = false;
       EXPECT_EQ(operation.DrawMode, drawMode);
       EXPECT_EQ(operation.Pen, forms::White);
@@ -105,7 +109,9 @@ std::vector<std::size_t> PixelsOf(forms::Surface& blank, const forms::DrawingOpe
   const forms::PixelRect box = blank.TakeDirty();
   for (int y = box.Y; y < box.Y + box.Height; ++y) {
     for (int x = box.X; x < box.X + box.Width; ++x) {
-      if (blank.Screen().At(x, y) != forms::Black) continue;
+      if (blank.Screen().At(x, y) != forms::Black) {
+        continue;
+      }
       pixels.push_back(static_cast<std::size_t>(y * blank.Screen().Width() + x));
     }
   }
@@ -133,7 +139,9 @@ TEST_F(LessonTest, LeavesMarksOfThePenWhereAFigurePassed) {
     int lost = 0;
     for (const auto& line : Drawn(Kind::Line)) {
       if (line.DrawMode == 2) {
-        for (const std::size_t pixel : PixelsOf(blank, line)) ++figure[pixel];
+        for (const std::size_t pixel : PixelsOf(blank, line)) {
+          ++figure[pixel];
+        }
         ++toTakeAway;
       } else if (toTakeAway == 0) {
         for (const std::size_t pixel : PixelsOf(blank, line)) {

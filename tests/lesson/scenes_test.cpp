@@ -11,7 +11,9 @@ namespace {
 
 double Largest(const std::vector<forms::DrawingOperation>& points) {
   double largest = 0;
-  for (const auto& point : points) largest = std::max(largest, std::abs(point.Y1));
+  for (const auto& point : points) {
+    largest = std::max(largest, std::abs(point.Y1));
+  }
   return largest;
 }
 
@@ -101,7 +103,9 @@ TEST_F(LessonTest, PutsTheMarkersOnTheirPoints) {
     GoTo(number);
     std::vector<int> visible;
     for (int i = 0; i <= 18; ++i) {
-      if (page.Image1(i).Visible) visible.push_back(i);
+      if (page.Image1(i).Visible) {
+        visible.push_back(i);
+      }
     }
     std::vector<int> expected;
     for (const auto& [index, x, y] : markers) {
@@ -131,7 +135,9 @@ TEST_F(LessonTest, DrawsOverThePageBeforeWithItsPen) {
   // The labels of the right side are written once more on page 8, three of them out of sight.
   const auto texts = Drawn(Kind::Text);
   ASSERT_EQ(texts.size(), 12U);
-  for (const auto& text : texts) EXPECT_EQ(text.Pen, forms::Blue);
+  for (const auto& text : texts) {
+    EXPECT_EQ(text.Pen, forms::Blue);
+  }
   EXPECT_EQ(texts[2].Text, "f(a)");
   EXPECT_EQ(texts[3].X1, 20);
   EXPECT_EQ(texts[11].Y1, 4.2);

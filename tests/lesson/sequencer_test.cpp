@@ -26,7 +26,9 @@ TEST_F(LessonTest, ShowsEachPageWithItsTextAndButtons) {
   for (int number = 1; number <= 31; ++number) {
     std::string during;
     page.Picture1.Observer = [&](const forms::DrawingOperation&) {
-      if (during.empty()) during = EnabledButtons() + " " + page.Label3.Caption();
+      if (during.empty()) {
+        during = EnabledButtons() + " " + page.Label3.Caption();
+      }
     };
     host.Steps = 0;
     page.Seguinte.UserClick();
@@ -34,7 +36,9 @@ TEST_F(LessonTest, ShowsEachPageWithItsTextAndButtons) {
     const std::string name = std::to_string(number);
     const bool draws = number != 1 && number != 15;
     const char* before = number == 23 ? "ASPC" : moving.contains(number % 31) ? Moving : Still;
-    if (number == 31) before = Moving;
+    if (number == 31) {
+      before = Moving;
+    }
     EXPECT_EQ(during, draws ? before + (" " + name) : "");
     EXPECT_EQ(EnabledButtons(), number == 1 ? "S" : number == 23 ? "ASPC" : Still) << name;
     EXPECT_EQ(page.Label3.Caption(), number < 30 ? name : "Final");
@@ -149,9 +153,13 @@ TEST_F(LessonTest, EndsWhatIsUnderWayWhenThePageIsLeft) {
     for (const bool paused : {false, true}) {
       auto& lesson = forms::The<Form9>();
       lesson.Show();
-      for (int i = 1; i < 7; ++i) lesson.Seguinte.UserClick();
+      for (int i = 1; i < 7; ++i) {
+        lesson.Seguinte.UserClick();
+      }
       host.Steps = 0;
-      if (paused) host.AtStep(40, [&lesson] { lesson.Parar.UserClick(); });
+      if (paused) {
+        host.AtStep(40, [&lesson] { lesson.Parar.UserClick(); });
+      }
       host.AtStep(50, [&lesson, leave = item] { (lesson.*leave).UserClick(); });
       lesson.Seguinte.UserClick();
       EXPECT_EQ(host.Steps, 50);

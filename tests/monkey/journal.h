@@ -29,7 +29,9 @@ class Journal {
 #if defined(__SANITIZE_ADDRESS__)
     __sanitizer_set_death_callback([] { current->Tell(stderr); });
 #endif
-    for (const int signal : {SIGABRT, SIGSEGV}) std::signal(signal, Die);
+    for (const int signal : {SIGABRT, SIGSEGV}) {
+      std::signal(signal, Die);
+    }
     std::setvbuf(stdout, nullptr, _IOLBF, 0);
     std::printf("seed %lu\n", seed_);
   }
@@ -48,7 +50,9 @@ class Journal {
 
   // Ends the program with the last actions unless what must hold does.
   void Expect(bool holds, const char* what) {
-    if (holds) return;
+    if (holds) {
+      return;
+    }
     std::fprintf(stderr, "does not hold: %s\n", what);
     std::abort();
   }

@@ -66,7 +66,9 @@ class MonkeyHost final : public forms::Host {
   void Hidden(forms::Page& page) override { shown_.erase(&page); }
   void Unloaded(forms::Page& page) override {
     shown_.erase(&page);
-    if (last_ != nullptr && &last_->OwnerPage() == &page) last_ = nullptr;
+    if (last_ != nullptr && &last_->OwnerPage() == &page) {
+      last_ = nullptr;
+    }
   }
   void Changed(forms::Control& /*control*/) override {}
   void Drawn(forms::PictureBox& picture) override { picture.TakeDirty(); }
@@ -78,7 +80,9 @@ class MonkeyHost final : public forms::Host {
   }
   std::optional<forms::Color> ShowColor(forms::Color /*now*/) override {
     ActSometimes(3);
-    if (journal_.OneIn(2)) return std::nullopt;
+    if (journal_.OneIn(2)) {
+      return std::nullopt;
+    }
     return forms::QBColor(journal_.Below(16));
   }
   void Wait(int /*milliseconds*/) override { ActSometimes(60); }
@@ -86,14 +90,18 @@ class MonkeyHost final : public forms::Host {
   [[noreturn]] void End() override { throw ProgramEnded{}; }
 
   void Act() {
-    if (journal_.Over()) throw ProgramEnded{};
+    if (journal_.Over()) {
+      throw ProgramEnded{};
+    }
     journal_.NoteDepth(++nested_);
     forms::Page& page =
         **std::next(shown_.begin(), journal_.Below(static_cast<int>(shown_.size())));
     switch (journal_.Below(20)) {
       case 0:
         // Seldom, so that motions nest first; closing the first page ends the program.
-        if (!journal_.OneIn(page.Name() == "Form2" ? 100 : 10)) break;
+        if (!journal_.OneIn(page.Name() == "Form2" ? 100 : 10)) {
+          break;
+        }
         journal_.Note(page.Name() + " closed by its frame");
         forms::Application::Current().Run(page, [&page] { page.UserClose(); });
         break;
@@ -112,20 +120,28 @@ class MonkeyHost final : public forms::Host {
         }
         break;
       default:  // leafing through the lesson, for instance
-        if (last_ != nullptr) ActOn(*last_);
+        if (last_ != nullptr) {
+          ActOn(*last_);
+        }
     }
     --nested_;
   }
 
  private:
   void ActSometimes(int rarity) {
-    if (journal_.OneIn(rarity)) Act();
+    if (journal_.OneIn(rarity)) {
+      Act();
+    }
   }
 
   void ChooseFrom(const std::vector<forms::Menu*>& items) {
-    if (items.empty()) return;
+    if (items.empty()) {
+      return;
+    }
     forms::Menu& item = *journal_.OneOf(items);
-    if (!item.Items().empty()) return ChooseFrom(item.Items());
+    if (!item.Items().empty()) {
+      return ChooseFrom(item.Items());
+    }
     journal_.Note("menu " + item.Name);
     item.UserClick();
   }
@@ -135,8 +151,12 @@ class MonkeyHost final : public forms::Host {
   bool ActIn(forms::Control& container) {
     const auto& children = container.Children();
     forms::Control& control = *journal_.OneOf(children);
-    if (!control.Reachable()) return false;
-    if (!control.Children().empty()) return ActIn(control);
+    if (!control.Reachable()) {
+      return false;
+    }
+    if (!control.Children().empty()) {
+      return ActIn(control);
+    }
     last_ = &control;
     return ActOn(control);
   }
@@ -186,6 +206,8 @@ void Live(Journal& journal) {
 
 int main(int argc, char** argv) {
   clinorama::tests::Journal journal(argc, argv);
-  while (!journal.Over()) clinorama::tests::Live(journal);
+  while (!journal.Over()) {
+    clinorama::tests::Live(journal);
+  }
   journal.TellTotal();
 }

@@ -67,19 +67,25 @@ class Monkey {
   QWidget& ChooseWindow() {
     QWidgetList windows;
     for (QWidget* window : QApplication::topLevelWidgets()) {
-      if (window->isVisible()) windows.push_back(window);
+      if (window->isVisible()) {
+        windows.push_back(window);
+      }
     }
     return *journal_.OneOf(windows);
   }
 
   void ActOn(QWidget& window) {
     for (const char* end : {"Sair", "AbandonarPrograma"}) {  // these would end the program
-      for (auto* item : window.findChildren<QAction*>(end)) item->setEnabled(false);
+      for (auto* item : window.findChildren<QAction*>(end)) {
+        item->setEnabled(false);
+      }
     }
     const std::string name = window.objectName().toStdString();
     switch (journal_.Below(16)) {
       case 0:
-        if (name == "Form2" || !journal_.OneIn(5)) return;
+        if (name == "Form2" || !journal_.OneIn(5)) {
+          return;
+        }
         journal_.Note("close " + name);
         QWindowSystemInterface::handleCloseEvent(window.windowHandle());
         return;
@@ -114,8 +120,12 @@ class Monkey {
     const auto widgets = window.findChildren<QWidget*>();
     QWidget* widget = widgets.empty() ? &window : journal_.OneOf(widgets);
     // Often the same as before, as a user does who leafs through the lesson.
-    if (last_ != nullptr && last_->window() == &window && journal_.OneIn(2)) widget = last_;
-    if (!widget->isVisible() || widget->window() != &window) return;
+    if (last_ != nullptr && last_->window() == &window && journal_.OneIn(2)) {
+      widget = last_;
+    }
+    if (!widget->isVisible() || widget->window() != &window) {
+      return;
+    }
     last_ = widget;
     const Qt::MouseButton button = journal_.OneIn(20) ? Qt::RightButton : Qt::LeftButton;
     // Beside the middle there are the ends of bars, and the items of menus.
@@ -133,9 +143,13 @@ class Monkey {
     };
     for (int clicks = journal_.OneIn(10) ? 2 : 1; clicks > 0; --clicks) {
       send(QEvent::MouseButtonPress);
-      if (!journal_.OneIn(30)) send(QEvent::MouseButtonRelease);
+      if (!journal_.OneIn(30)) {
+        send(QEvent::MouseButtonRelease);
+      }
     }
-    if (journal_.OneIn(2)) time_ += 1000;  // no double click then
+    if (journal_.OneIn(2)) {
+      time_ += 1000;  // no double click then
+    }
   }
 
   Journal& journal_;

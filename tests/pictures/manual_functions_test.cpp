@@ -38,7 +38,9 @@ std::string SourceOf(const std::string& name) {
 std::vector<std::string> Pages() {
   std::vector<std::string> pages;
   for (const auto& entry : std::filesystem::directory_iterator(Manual)) {
-    if (entry.path().extension() == ".typ") pages.push_back(entry.path().filename().string());
+    if (entry.path().extension() == ".typ") {
+      pages.push_back(entry.path().filename().string());
+    }
   }
   return pages;
 }
@@ -61,7 +63,9 @@ Outcome Evaluate(const std::string& expression, double x) {
   equation.Var("x", x);
   try {
     equation.Solve();
-    if (equation.Solution() == clsEquation::ForaDoDominio) return {};
+    if (equation.Solution() == clsEquation::ForaDoDominio) {
+      return {};
+    }
     return {equation.Solution(), ""};
   } catch (const ErroInterpretador& error) {
     return {{}, error.Description()};
@@ -119,8 +123,9 @@ TEST(ManualExamples, HaveAValueSomewhere) {
     const std::string source = SourceOf(page);
     for (const std::smatch& raw : Found(source, "`([^`]+)`")) {
       const std::string example = raw[1];
-      if (example.find_first_of("xX0123456789") == std::string::npos || InLibrary(example))
+      if (example.find_first_of("xX0123456789") == std::string::npos || InLibrary(example)) {
         continue;
+      }
       bool hasValue = false;
       for (const double x : {2.0, 0.5, -0.5, 5.0}) {
         hasValue = hasValue || Evaluate(example, x).value.has_value();
@@ -158,7 +163,9 @@ TEST(ManualExamples, HaveTheValuesThatThePagesGive) {
 TEST(ManualExamples, RaiseTheErrorsThatThePagesGive) {
   int errors = 0;
   const auto withoutStop = [](std::string text) {
-    if (!text.empty() && text.back() == '.') text.pop_back();
+    if (!text.empty() && text.back() == '.') {
+      text.pop_back();
+    }
     return text;
   };
   for (const std::string& page : Pages()) {

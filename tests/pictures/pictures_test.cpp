@@ -39,7 +39,9 @@ std::string Fingerprint(const std::vector<std::string>& files) {
 std::vector<std::string> Origin(const std::string& picture) {
   const std::string mark = "<!-- Typeset from ";
   const std::size_t begin = picture.find(mark);
-  if (begin == std::string::npos) return {};
+  if (begin == std::string::npos) {
+    return {};
+  }
   std::istringstream words(
       picture.substr(begin, picture.find(" -->", begin) - begin).substr(mark.size()));
   return {std::istream_iterator<std::string>(words), {}};
@@ -48,9 +50,13 @@ std::vector<std::string> Origin(const std::string& picture) {
 std::vector<std::filesystem::path> Sources() {
   std::vector<std::filesystem::path> sources;
   for (const char* folder : {"lesson", "manual"}) {
-    if (!exists(Resources / folder)) continue;
+    if (!exists(Resources / folder)) {
+      continue;
+    }
     for (const auto& entry : std::filesystem::recursive_directory_iterator(Resources / folder)) {
-      if (entry.path().extension() == ".typ") sources.push_back(entry.path());
+      if (entry.path().extension() == ".typ") {
+        sources.push_back(entry.path());
+      }
     }
   }
   return sources;

@@ -131,7 +131,9 @@ TEST_F(DrawingTest, UnbalancedParentheses) {
     }
     const auto points = Points(row.Persistent);
     EXPECT_EQ(points.size(), all);
-    for (const Drawing& point : points) ASSERT_DOUBLE_EQ(point.Y1, row.Y);
+    for (const Drawing& point : points) {
+      ASSERT_DOUBLE_EQ(point.Y1, row.Y);
+    }
     EXPECT_TRUE(points.empty() || points.back().Pen == forms::QBColor(row.Lines.back().first));
   }
   EXPECT_EQ(page.ModoCoresFunção, 0);
@@ -180,10 +182,14 @@ TEST_F(DrawingTest, ConstantFunctions) {
     Press(row.Press, row.Text);
     const auto points = Points(row.Persistent, row.Color);
     ASSERT_EQ(points.size(), row.Count);
-    if (points.empty()) continue;
+    if (points.empty()) {
+      continue;
+    }
     EXPECT_NEAR(points.front().X1, row.FirstX, 1e-9);
     EXPECT_NEAR(points.back().X1, row.LastX, 1e-9);
-    for (const Drawing& point : points) ASSERT_NEAR(point.Y1, row.Y, 1e-6);
+    for (const Drawing& point : points) {
+      ASSERT_NEAR(point.Y1, row.Y, 1e-6);
+    }
     EXPECT_EQ(points.front().DrawWidth, row.DrawWidth);
   }
 }
@@ -209,9 +215,15 @@ TEST_F(DrawingTest, ColoursTellTheSides) {
     Press(row.Press, row.Text);
     EXPECT_GT(Points(row.Persistent, row.Left).size(), 1000u);
     EXPECT_GT(Points(row.Persistent, row.Right).size(), 1000u);
-    for (const Drawing& point : Points(row.Persistent, row.Left)) ASSERT_LT(point.X1, 0.0011);
-    for (const Drawing& point : Points(row.Persistent, row.Right)) ASSERT_GT(point.X1, -0.0011);
-    for (const Drawing& point : Points(row.Persistent)) ASSERT_LT(std::abs(point.Y1), 8);
+    for (const Drawing& point : Points(row.Persistent, row.Left)) {
+      ASSERT_LT(point.X1, 0.0011);
+    }
+    for (const Drawing& point : Points(row.Persistent, row.Right)) {
+      ASSERT_GT(point.X1, -0.0011);
+    }
+    for (const Drawing& point : Points(row.Persistent)) {
+      ASSERT_LT(std::abs(point.Y1), 8);
+    }
   }
 }
 
@@ -219,12 +231,16 @@ TEST_F(DrawingTest, ColoursTellTheSides) {
 std::vector<double> Groups(const std::vector<Drawing>& dots) {
   std::vector<std::vector<double>> groups;
   for (const Drawing& dot : dots) {
-    if (groups.empty() || dot.X1 - groups.back().back() > 0.1) groups.emplace_back();
+    if (groups.empty() || dot.X1 - groups.back().back() > 0.1) {
+      groups.emplace_back();
+    }
     groups.back().push_back(dot.X1);
   }
   std::vector<double> middles;
   middles.reserve(groups.size());
-  for (const auto& group : groups) middles.push_back((group.front() + group.back()) / 2);
+  for (const auto& group : groups) {
+    middles.push_back((group.front() + group.back()) / 2);
+  }
   return middles;
 }
 
@@ -255,7 +271,9 @@ TEST_F(DrawingTest, SpecialPoints) {
     Press(row.Press, row.Text);
     const auto xs = Groups(Points(row.Persistent, row.Color));
     ASSERT_EQ(xs.size(), row.Xs.size());
-    for (std::size_t i = 0; i < xs.size(); ++i) EXPECT_NEAR(xs[i], row.Xs[i], 0.02);
+    for (std::size_t i = 0; i < xs.size(); ++i) {
+      EXPECT_NEAR(xs[i], row.Xs[i], 0.02);
+    }
   }
   Press(&Form13::InflexõesFunção, "(x-0.0035)^3");
   EXPECT_NEAR(Points(1).back().X1, 0.01, 1e-9) << "the first sample after it, every 0.01";
@@ -268,7 +286,9 @@ TEST_F(DrawingTest, OutsideTheDomain) {
     Press(press, "sqr(x)");
     const auto points = Points(3);
     ASSERT_GE(points.size(), 7999u);
-    for (std::size_t i = 0; i < 7990; ++i) ASSERT_EQ(points[i].Y1, 0);
+    for (std::size_t i = 0; i < 7990; ++i) {
+      ASSERT_EQ(points[i].Y1, 0);
+    }
   }
   Press(&Form13::ColocarCoresPrimeira1, "sqr(x)");
   EXPECT_GT(Points(3).front().X1, 0);
@@ -288,7 +308,9 @@ TEST_F(DrawingTest, CornersLeaveGaps) {
   }
   Press(&Form13::DesenharSegunda, "abs(x)");
   EXPECT_GT(Points(5).size(), 15990u);
-  for (const Drawing& point : Points(5)) ASSERT_GT(std::abs(point.X1 - 0.0005), 0.0004);
+  for (const Drawing& point : Points(5)) {
+    ASSERT_GT(std::abs(point.X1 - 0.0005), 0.0004);
+  }
 }
 
 // Skipped silently, a failure costs its own point; the next quotient starts from a repeated value.
@@ -296,7 +318,9 @@ TEST_F(DrawingTest, FailureAtOneAbscissa) {
   const auto near = [this](int canvas, double x) {
     std::vector<Drawing> found;
     for (const Drawing& point : Points(canvas)) {
-      if (std::abs(point.X1 - x) < 0.0005) found.push_back(point);
+      if (std::abs(point.X1 - x) < 0.0005) {
+        found.push_back(point);
+      }
     }
     return found;
   };

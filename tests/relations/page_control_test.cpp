@@ -18,7 +18,9 @@ using forms::The;
 std::vector<std::string> Texts(const std::vector<Drawing>& prints) {
   std::vector<std::string> texts;
   texts.reserve(prints.size());
-  for (const Drawing& print : prints) texts.push_back(print.Text);
+  for (const Drawing& print : prints) {
+    texts.push_back(print.Text);
+  }
   return texts;
 }
 
@@ -35,12 +37,16 @@ TEST_F(PageControlTest, NothingLiesOverAnythingElse) {
            b.Top < a.Top + a.Height;
   };
   for (const forms::Control* control : page.Children()) {
-    if (!control->Visible) continue;
+    if (!control->Visible) {
+      continue;
+    }
     EXPECT_TRUE(control->Left >= 0 && control->Left + control->Width <= page.Width &&
                 control->Top >= 0 && control->Top + control->Height <= page.Height)
         << control->Name();
     for (const forms::Control* other : page.Children()) {
-      if (other == control || !other->Visible) continue;
+      if (other == control || !other->Visible) {
+        continue;
+      }
       EXPECT_FALSE(overlap(*control, *other)) << control->Name() << " and " << other->Name();
     }
   }
@@ -70,10 +76,14 @@ TEST_F(PageControlTest, UnitsMarkAndNumberBothAxes) {
                                 {0.15, 8.7, 0, 9}, {8.7, -0.15, 9.1, 0}, {8.7, 0.15, 9.1, 0}};
   std::map<std::string, std::vector<std::pair<double, double>>> numbers = {{"x", {{9.2, -0.3}}},
                                                                            {"y", {{-0.7, 9.7}}}};
-  for (int j = -8; j <= 8; ++j) lines.push_back({double(j), 0.1, double(j), -0.1});
+  for (int j = -8; j <= 8; ++j) {
+    lines.push_back({double(j), 0.1, double(j), -0.1});
+  }
   for (int j = -8; j <= 8; ++j) {
     lines.push_back({-0.1, double(j), 0.1, double(j)});
-    if (j == 0) continue;
+    if (j == 0) {
+      continue;
+    }
     numbers[(j < 0 ? "" : " ") + std::to_string(j) + " "] = {{j - 0.3, -0.4}, {-0.7, j + 0.3}};
   }
   Press(&Form13::ApagarGráfico1);
@@ -114,7 +124,9 @@ TEST_F(PageControlTest, RadiansKeepTheBoldnessOfTheLastGraduation) {
     host.Texts.clear();
     Press(button);
     for (const forms::TextRun& run : host.Texts) {
-      if (run.Text == " 8 ") return run.Font.Bold;
+      if (run.Text == " 8 ") {
+        return run.Font.Bold;
+      }
     }
     return false;
   };
@@ -165,7 +177,9 @@ TEST_F(PageControlTest, CaptionsAfterLeavingAndReturning) {
     const std::array<forms::CommandButton*, 3> toggles = {&fresh.EixosRad, &fresh.EixosRad1,
                                                           &fresh.EixosRad2};
     for (std::size_t i = 0; i < toggles.size(); ++i) {
-      if (row.Radians[i]) toggles[i]->UserClick();
+      if (row.Radians[i]) {
+        toggles[i]->UserClick();
+      }
     }
     fresh.Sair.UserClick();
     EXPECT_FALSE(fresh.Visible());

@@ -29,7 +29,9 @@ class RelationsTest : public ApplicationTest {
     page.Show();
     for (int index = 1; index <= 6; ++index) {
       page.Picture1(index).Observer = [this, index](const Drawing& operation) {
-        if (DuringDrawing) DuringDrawing();
+        if (DuringDrawing) {
+          DuringDrawing();
+        }
         Drawn[index].push_back(operation);
       };
     }
@@ -51,8 +53,12 @@ class RelationsTest : public ApplicationTest {
   std::vector<Drawing> Of(int canvas, Drawing::Kind kind, int color = -1) {
     std::vector<Drawing> found;
     for (const Drawing& operation : Drawn[canvas]) {
-      if (operation.What != kind) continue;
-      if (color < 0 || operation.Pen == forms::QBColor(color)) found.push_back(operation);
+      if (operation.What != kind) {
+        continue;
+      }
+      if (color < 0 || operation.Pen == forms::QBColor(color)) {
+        found.push_back(operation);
+      }
     }
     return found;
   }

@@ -41,7 +41,9 @@ TEST_F(Presentation, OffersItsPagesInThisOrder) {
   std::vector<std::string> captions;
   for (const forms::Menu* menu : page.MenuBar()) {
     captions.push_back(menu->Caption);
-    for (const forms::Menu* item : menu->Items()) captions.push_back("- " + item->Caption);
+    for (const forms::Menu* item : menu->Items()) {
+      captions.push_back("- " + item->Caption);
+    }
   }
   EXPECT_EQ(captions, (std::vector<std::string>{"Ficheiro", "- Abandonar o programa",
                                                 "Conceito de derivada", "Clinorama", "Instruções",

@@ -121,7 +121,9 @@ TEST_F(ExamplesTest, HideTwoFramesWhoseButtonsDoNothing) {
   for (const forms::Frame* frame : {&page.FrameFinitos, &page.FrameInfinitos}) {
     for (forms::Control* control : frame->Children()) {
       auto* button = dynamic_cast<forms::CommandButton*>(control);
-      if (button == nullptr) continue;
+      if (button == nullptr) {
+        continue;
+      }
       names.insert(button->Name());
       EXPECT_EQ(button->Caption, "Tranferir");
       button->Click();  // the user cannot

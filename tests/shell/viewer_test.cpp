@@ -55,7 +55,9 @@ void PrintTo(const Sight& sight, std::ostream* out) {
 Sight SightOf(const PageViewer& viewer) {
   std::vector<int> pages;
   for (int page = viewer.Image1.First(); page <= viewer.Image1.Last(); ++page) {
-    if (viewer.Image1(page).Visible) pages.push_back(page);
+    if (viewer.Image1(page).Visible) {
+      pages.push_back(page);
+    }
   }
   return {pages, viewer.Label2.Caption, viewer.SetaE.Enabled, viewer.SetaD.Enabled};
 }

@@ -80,7 +80,9 @@ class ScriptedHost final : public forms::Host {
   void SetFocus(forms::Control& control) override { Focused.push_back(control.Name()); }
   void MsgBox(const std::string& text, int style, const std::string& title) override {
     MessageBoxes.push_back({text, style, title});
-    if (DuringMessageBox) DuringMessageBox();
+    if (DuringMessageBox) {
+      DuringMessageBox();
+    }
   }
   std::optional<forms::Color> ShowColor(forms::Color now) override {
     ColorsOffered.push_back(now);
@@ -97,7 +99,9 @@ class ScriptedHost final : public forms::Host {
       throw WaitedForever{};
     }
     const int step = Steps;  // nested steps count it on
-    if (EachStep) EachStep();
+    if (EachStep) {
+      EachStep();
+    }
     while (script_.contains(step)) {
       const auto action = script_.extract(script_.lower_bound(step));
       action.mapped()();

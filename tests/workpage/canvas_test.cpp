@@ -150,7 +150,9 @@ TEST_F(Canvas, IsWipedByClearingAndByEveryReturn) {
     EXPECT_GT(Differences(page.Picture1.Kept(), empty), 0);
     page.Image1(0).Visible = true;
     page.Image1(1).Visible = true;
-    for (forms::Label* value : {&page.Label2, &page.Label3, &page.Label6}) value->Caption = "3";
+    for (forms::Label* value : {&page.Label2, &page.Label3, &page.Label6}) {
+      value->Caption = "3";
+    }
     clearing ? page.ApagarGráfico.UserClick() : Return();
     for (const PictureBox* surface : {&page.Picture1, &page.Picture2}) {
       EXPECT_EQ(Differences(surface->Screen(), empty), 0);

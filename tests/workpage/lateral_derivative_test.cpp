@@ -69,7 +69,9 @@ TEST_F(LateralDerivative, IsRefusedInThisOrder) {
     SCOPED_TRACE(std::string(test.Clicked.Name) + " of " + test.Function + " at " + test.Abscissa);
     page.Função1.UserType(test.Function);
     page.Abcissa.UserType(test.Abscissa);
-    if (test.Plotted) page.DesenharGráfico.UserClick();
+    if (test.Plotted) {
+      page.DesenharGráfico.UserClick();
+    }
     page.Picture1.AutoRedraw = true;
     host.MessageBoxes.clear();
     test.Clicked.Option.UserClick();
@@ -195,7 +197,9 @@ TEST_F(LateralDerivative, WalksTowardsThePointAndDrawsWhatItTakesAway) {
       EXPECT_EQ(drawn[i].DrawStyle, 0);
       EXPECT_NEAR(std::hypot(drawn[i].X2 - 2, drawn[i].Y2 - 4), 10, 1e-9);
       EXPECT_GT((drawn[i].X2 - 2) * test.Clicked.Direction, 0);
-      if (i % 2 == 0) continue;
+      if (i % 2 == 0) {
+        continue;
+      }
       EXPECT_EQ(std::exchange(drawn[i - 1].DrawMode, 6), 2);
       EXPECT_EQ(Told(drawn[i]), Told(drawn[i - 1]));
     }
@@ -210,7 +214,9 @@ TEST_F(LateralDerivative, LeavesGuidesAndRedSegmentOnACanvasOtherwiseAsItWas) {
     const Raster graph = page.Picture1.Kept();
     Raster guides;
     page.Picture1.Observer = [&](const DrawingOperation& line) {
-      if (line.DrawStyle == 2) guides = page.Picture1.Screen();
+      if (line.DrawStyle == 2) {
+        guides = page.Picture1.Screen();
+      }
     };
     host.AtStep(host.Steps + 7, [&] {
       EXPECT_GT(Differences(page.Picture1.Screen(), guides), 100) << "no semi-secant is seen";

@@ -122,8 +122,12 @@ TEST_F(WorkPage, EndsItsMotionAndPausesWhenClosed) {
       Form12& closed = The<Form12>();
       closed.Show();
       closed.DesenharGráfico.UserClick();
-      if (step > 10) host.AtStep(before + 10, [&] { closed.Parar.UserClick(); });
-      if (step > 20) host.AtStep(before + 20, [&] { closed.Parar1.UserClick(); });
+      if (step > 10) {
+        host.AtStep(before + 10, [&] { closed.Parar.UserClick(); });
+      }
+      if (step > 20) {
+        host.AtStep(before + 20, [&] { closed.Parar1.UserClick(); });
+      }
       host.AtStep(before + step, leave);
       closed.DerivadaEsquerda.UserClick();
       EXPECT_EQ(host.Steps, before + step);

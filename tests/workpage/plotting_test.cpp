@@ -82,7 +82,9 @@ TEST_F(Plotting, DrawsASecondGraphOverTheFirst) {
 TEST_F(Plotting, ShowsThePointsAsTheyArriveAndDoesNotGiveWay) {
   std::size_t points = 0;
   page.Picture2.Observer = [&](const DrawingOperation&) {
-    if (points++ % 1000 != 0) return;
+    if (points++ % 1000 != 0) {
+      return;
+    }
     EXPECT_EQ(page.MousePointer, forms::MousePointer::Hourglass);
     ExpectInFront(page.Picture2);
   };

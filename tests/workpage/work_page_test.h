@@ -38,7 +38,9 @@ inline int PixelsOf(const Raster& raster, forms::Color color) {
 
 // A drawing in words, so that lists of them can be compared and read.
 inline std::string Told(const DrawingOperation& drawn) {
-  if (drawn.What == Kind::Clear) return "clear";
+  if (drawn.What == Kind::Clear) {
+    return "clear";
+  }
   std::ostringstream out;
   for (const double number : {drawn.X1, drawn.Y1, drawn.X2, drawn.Y2}) {
     out << std::round(number * 1e6) / 1e6 + 0.0 << ' ';
