@@ -24,13 +24,11 @@ configure() {
        -e "CMAKE_HOME_DIRECTORY:INTERNAL=$(pwd -P)" "$cache"; then
     how+=(--fresh)
   fi
-  # Ninja does not read these signs in the lists of included files, and builds all again each time.
-  case "$PWD" in
-    *[\'\"\&\;\<\>\|^\`*?]*)
-      how+=(-G "Unix Makefiles")
-      export CMAKE_BUILD_PARALLEL_LEVEL="${CMAKE_BUILD_PARALLEL_LEVEL-$(nproc)}"
-      ;;
-  esac
+  # Ninja ends a path in the lists of included files at an apostrophe, and builds all again each time.
+  if [[ "$PWD" == *\'* ]]; then
+    how+=(-G "Unix Makefiles")
+    export CMAKE_BUILD_PARALLEL_LEVEL="${CMAKE_BUILD_PARALLEL_LEVEL-$(nproc)}"
+  fi
   cmake --preset "$preset" "${how[@]}" "${@:2}"
 }
 

@@ -3,6 +3,7 @@
 // Usage: widgets_monkey [seconds [seed]]
 
 #include <qpa/qwindowsysteminterface.h>
+#include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
 #include <QPointer>
@@ -116,16 +117,24 @@ class Monkey {
     }
   }
 
+  // Mostly something that acts; often the same as before, as a user does who leafs through the
+  // lesson.
+  QWidget* ChooseWidget(QWidget& window) {
+    if (last_ != nullptr && last_->window() == &window && journal_.OneIn(3)) {
+      return last_;
+    }
+    QWidgetList widgets = {&window};
+    for (QWidget* widget : window.findChildren<QWidget*>()) {
+      const bool acts = qobject_cast<QAbstractButton*>(widget) != nullptr && widget->isEnabled();
+      if (widget->isVisible() && widget->window() == &window && (acts || journal_.OneIn(8))) {
+        widgets.push_back(widget);
+      }
+    }
+    return journal_.OneOf(widgets);
+  }
+
   void Click(QWidget& window) {
-    const auto widgets = window.findChildren<QWidget*>();
-    QWidget* widget = widgets.empty() ? &window : journal_.OneOf(widgets);
-    // Often the same as before, as a user does who leafs through the lesson.
-    if (last_ != nullptr && last_->window() == &window && journal_.OneIn(2)) {
-      widget = last_;
-    }
-    if (!widget->isVisible() || widget->window() != &window) {
-      return;
-    }
+    QWidget* widget = ChooseWidget(window);
     last_ = widget;
     const Qt::MouseButton button = journal_.OneIn(20) ? Qt::RightButton : Qt::LeftButton;
     // Beside the middle there are the ends of bars, and the items of menus.
