@@ -238,17 +238,17 @@ class ViewMaker final : public forms::ControlVisitor {
  public:
   explicit ViewMaker(QWidget& parent) : parent_(parent) {}
 
-  void Visit(forms::Label& label) override { view = ViewOf(label, parent_); }
-  void Visit(forms::TextBox& box) override { view = ViewOf(box, parent_); }
-  void Visit(forms::CommandButton& button) override { view = ViewOf(button, parent_); }
-  void Visit(forms::OptionButton& option) override { view = ViewOf(option, parent_); }
-  void Visit(forms::CheckBox& box) override { view = ViewOf(box, parent_); }
-  void Visit(forms::Frame& frame) override { view = ViewOf(frame, parent_); }
-  void Visit(forms::Image& image) override { view = ViewOf(image, parent_); }
-  void Visit(forms::HScrollBar& bar) override { view = ViewOf(bar, parent_); }
-  void Visit(forms::PictureBox& picture) override { view = ViewOf(picture, parent_); }
+  void Visit(forms::Label& label) override { Made = ViewOf(label, parent_); }
+  void Visit(forms::TextBox& box) override { Made = ViewOf(box, parent_); }
+  void Visit(forms::CommandButton& button) override { Made = ViewOf(button, parent_); }
+  void Visit(forms::OptionButton& option) override { Made = ViewOf(option, parent_); }
+  void Visit(forms::CheckBox& box) override { Made = ViewOf(box, parent_); }
+  void Visit(forms::Frame& frame) override { Made = ViewOf(frame, parent_); }
+  void Visit(forms::Image& image) override { Made = ViewOf(image, parent_); }
+  void Visit(forms::HScrollBar& bar) override { Made = ViewOf(bar, parent_); }
+  void Visit(forms::PictureBox& picture) override { Made = ViewOf(picture, parent_); }
 
-  View view;
+  View Made;
 
  private:
   QWidget& parent_;
@@ -259,7 +259,7 @@ class ViewMaker final : public forms::ControlVisitor {
 View MakeView(forms::Control& control, QWidget& parent) {
   ViewMaker maker(parent);
   control.Accept(maker);
-  return std::move(maker.view);
+  return std::move(maker.Made);
 }
 
 QRect PlaceOf(const forms::Control& control) {

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "base/failure.h"
+#include "forms/pixel_line.h"
 #include "forms/units.h"
 
 namespace clinorama::forms {
@@ -24,95 +25,6 @@ double Reduced(double coordinate) {
   }
   return static_cast<double>(static_cast<float>(coordinate));
 }
-
-// A pixel number for any real position. A position a trifle before the next pixel counts as there:
-// ends that differ in their last digits only would stand a pixel apart otherwise. What lies far
-// outside is brought just near enough for sums of such numbers to stay within the range of an
-// integer.
-int PixelOf(double position) {
-  constexpr double Trifle = 1e-6;
-  constexpr double Far = 1 << 28;
-  const double near = std::clamp(position + Trifle, -Far, Far);
-  const int pixel = static_cast<int>(near);  // towards 0, and without a call
-  return pixel > near ? pixel - 1 : pixel;
-}
-
-// The pixel that a position is nearest to; halfway between two it is the first of them.
-int NearestPixel(double position) { return -PixelOf(0.5 - position); }
-
-// The first of `size` pixels that lie as evenly as they can about a position.
-int FirstPixel(double position, int size) { return PixelOf(position - (size - 1) / 2.0); }
-
-// A line as it runs through the columns of pixels of its longer direction. For a steep line columns
-// are rows, and a height is a place along a row.
-class Course {
- public:
-  // The pixels that the line covers in a column.
-  struct Run {
-    int First;
-    int Count;
-  };
-
-  // From (x1, y1) to (x2, y2) with a pen of so many pixels.
-  Course(double x1, double y1, double x2, double y2, int pen)
-      : x1_(x1),
-        y1_(y1),
-        x2_(x2),
-        y2_(y2),
-        slope_(x1 == x2 ? 0 : (y2 - y1) / (x2 - x1)),
-        // Wide oblique pens are measured across the line.
-        run_(pen == 1 ? 1 : static_cast<int>(std::lround(pen * std::sqrt(1 + slope_ * slope_)))),
-        start_(PixelOf(x1)),
-        end_(PixelOf(x2)) {}
-
-  double Left() const { return std::min(x1_, x2_); }
-  double Right() const { return std::max(x1_, x2_); }
-  int Start() const { return start_; }
-
-  // A thin line goes by its heights in the middles of columns, but covers the pixels of its ends. A
-  // wide one covers them anyway.
-  Run In(int column) const {
-    if (run_ == 1 && column == start_) {
-      return FromEnd(y1_, y2_, column, end_);
-    }
-    if (run_ == 1 && column == end_) {
-      return FromEnd(y2_, y1_, column, start_);
-    }
-    return {Row(column), run_};
-  }
-
- private:
-  // Heights are taken on the whole line, and counted from the end nearer to the raster: from a very
-  // far one they would be lost in rounding.
-  int Row(int column) const {
-    const double x = std::clamp(column + 0.5, Left(), Right());
-    const double height =
-        std::abs(x1_) <= std::abs(x2_) ? y1_ + slope_ * (x - x1_) : y2_ + slope_ * (x - x2_);
-    return FirstPixel(height, run_);
-  }
-
-  // From the pixel of an end as far as the next column's touches; or all the way to the other end
-  // where the two stand in one column.
-  static Run Between(int a, int b) { return {std::min(a, b), std::abs(a - b) + 1}; }
-  Run FromEnd(double y, double otherY, int column, int otherColumn) const {
-    const int end = PixelOf(y);
-    if (column == otherColumn) {
-      return Between(end, PixelOf(otherY));
-    }
-    const int next = column < otherColumn ? column + 1 : column - 1;
-    const int beside = next == otherColumn ? PixelOf(otherY) : Row(next);
-    return Between(end, std::clamp(end, beside - 1, beside + 1));
-  }
-
-  double x1_;
-  double y1_;
-  double x2_;
-  double y2_;
-  double slope_;
-  int run_;
-  int start_;  // columns of the two ends
-  int end_;
-};
 
 int RasterSize(double twips, double density) {
   return std::max(1, static_cast<int>(std::lround(twips / TwipsToPixel * density)));
@@ -215,19 +127,20 @@ void Surface::PSet(double x, double y, std::optional<Color> color) {
 void Surface::PaintLine(double x1, double y1, double x2, double y2, Color pen) {
   const bool steep = std::abs(y2 - y1) > std::abs(x2 - x1);
   const int width = DevicePixels(DrawWidth);
-  const Course course = steep ? Course(y1, x1, y2, x2, width) : Course(x1, y1, x2, y2, width);
+  const PixelLine line =
+      steep ? PixelLine(y1, x1, y2, x2, width) : PixelLine(x1, y1, x2, y2, width);
   const double overhang = (width - 1) / 2.0;
-  const int first = PixelOf(course.Left() - overhang);
-  const int last = PixelOf(course.Right() + overhang);
+  const int first = PixelOf(line.Left() - overhang);
+  const int last = PixelOf(line.Right() + overhang);
   const int period = DevicePixels(DotLength);
   const bool dotted = DrawStyle != Solid && DrawWidth == 1;
 
   const int columns = steep ? screen_.Height() : screen_.Width();
   for (int i = std::max(first, 0); i <= std::min(last, columns - 1); ++i) {
-    if (dotted && std::abs(i - course.Start()) / period % 2 != 0) {
+    if (dotted && std::abs(i - line.Start()) / period % 2 != 0) {
       continue;
     }
-    const auto [top, run] = course.In(i);
+    const auto [top, run] = line.In(i);
     if (run == 1) {
       steep ? PaintPixel(top, i, pen) : PaintPixel(i, top, pen);
     } else {

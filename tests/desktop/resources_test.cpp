@@ -37,7 +37,7 @@ void ExpectPictures(const forms::Control& container) {
   }
 }
 
-// A picture that is missing would leave an empty place on the page, without a word.
+// The place of a picture that is missing would be empty, and nothing else would tell.
 TEST_F(DesktopTest, EveryPictureThatAPageShowsIsThere) {
   const forms::Page* const pages[] = {&The<Form2>(),  &The<Form3>(),  &The<Form4>(),
                                       &The<Form5>(),  &The<Form6>(),  &The<Form9>(),

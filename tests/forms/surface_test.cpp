@@ -19,7 +19,7 @@ namespace {
 using forms::Raster;
 using forms::Surface;
 
-constexpr int Dotted = 2;
+using forms::Dotted;
 
 // A surface of so many logical pixels, measured in them.
 struct PixelSurface : Surface {
@@ -265,10 +265,10 @@ int WrongPixelsOfAStep(Surface& surface, Surface& mask, const Segment& line) {
   surface.Line(20, 0, 20, 40, forms::QBColor(13));
   const Raster before = surface.Screen();
   line.DrawOn(mask);
-  surface.DrawMode = 2;
+  surface.DrawMode = forms::NotMergePen;
   line.DrawOn(surface);
   const Raster drawn = surface.Screen();
-  surface.DrawMode = 6;
+  surface.DrawMode = forms::InvertPixel;
   line.DrawOn(surface);
   int wrong = 0;
   for (int y = 0; y < before.Height(); ++y) {
@@ -387,14 +387,14 @@ TEST(Surface, TellsWhichPixelsChangedAndWhatWasDrawn) {
   surface.Observer = [&told](const auto& operation) { told.push_back(operation); };
   surface.TakeDirty();
   EXPECT_TRUE(surface.TakeDirty().Empty());
-  surface.DrawMode = 2;
+  surface.DrawMode = forms::NotMergePen;
   surface.PSet(3, 4, forms::Red);
   surface.Line(7, 9, 30, 9);
   const auto [x, y, width, height] = surface.TakeDirty();
   EXPECT_EQ((std::vector{x, y, width, height}), (std::vector{3, 4, 17, 6}));
   ASSERT_EQ(told.size(), 2U);
   EXPECT_EQ(told[0].Pen, forms::Red);
-  EXPECT_EQ(told[0].DrawMode, 2);
+  EXPECT_EQ(told[0].DrawMode, forms::NotMergePen);
   EXPECT_EQ(told[1].X2, 30);
   surface.PSet(19, 19);
   surface.Resize(150, 75);

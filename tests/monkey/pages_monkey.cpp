@@ -29,16 +29,16 @@ class RandomAct final : public forms::ControlVisitor {
   void Visit(forms::TextBox& box) override { box.UserType(RandomText()); }
   void Visit(forms::CommandButton& button) override { button.UserClick(); }
   void Visit(forms::OptionButton& option) override { option.UserClick(); }
-  void Visit(forms::CheckBox& /*box*/) override { acted = false; }
-  void Visit(forms::Frame& /*frame*/) override { acted = false; }
-  void Visit(forms::Image& /*image*/) override { acted = false; }
+  void Visit(forms::CheckBox& /*box*/) override { Acted = false; }
+  void Visit(forms::Frame& /*frame*/) override { Acted = false; }
+  void Visit(forms::Image& /*image*/) override { Acted = false; }
   void Visit(forms::HScrollBar& bar) override {
     bar.UserScroll(journal_.Below(14) - 2);
     bar.UserHold(journal_.OneIn(3));
   }
-  void Visit(forms::PictureBox& /*picture*/) override { acted = false; }
+  void Visit(forms::PictureBox& /*picture*/) override { Acted = false; }
 
-  bool acted = true;
+  bool Acted = true;
 
  private:
   std::string RandomText() {
@@ -165,7 +165,7 @@ class MonkeyHost final : public forms::Host {
     journal_.Note(control.OwnerPage().Name() + " " + control.Name());
     RandomAct act(journal_);
     control.Accept(act);
-    return act.acted;
+    return act.Acted;
   }
 
   Journal& journal_;
