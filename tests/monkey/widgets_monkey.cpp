@@ -181,6 +181,9 @@ int main(int argc, char** argv) {
   forms::The<Form2>().Show();
   forms::The<Form12>().Show();
   forms::The<Form9>().Show();
+  for (int page = 1; page <= 6; ++page) {
+    forms::The<Form9>().Seguinte.UserClick();  // the next page moves
+  }
   tests::Monkey monkey(journal);
   QTimer timer;
   timer.callOnTimeout([&monkey] { monkey.Act(); });
