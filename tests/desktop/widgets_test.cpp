@@ -19,6 +19,7 @@
 
 #include "desktop_fixture.h"
 #include "forms/controls.h"
+#include "lesson/Form9.h"
 #include "shell/Form2.h"
 #include "workpage/Form12.h"
 
@@ -199,16 +200,28 @@ TEST_F(DesktopTest, EventsThatArriveAfterTheirPageWasClosedReachNobody) {
   EXPECT_TRUE(QTest::qWaitFor([&watched] { return watched == nullptr; }));
 }
 
+// A click that comes with the answer to a box runs before the box's own loop is left. Here it
+// starts a pause, a motion of the lesson runs in that, and in the motion the page of the box is
+// closed.
 TEST_F(DesktopTest, ABoxOutlivesItsPage) {
+  The<Form9>().Show();
+  for (int page = 1; page <= 6; ++page) {
+    The<Form9>().Seguinte.UserClick();
+  }
   The<Form12>().Show();
-  QTimer::singleShot(0, [] { Window("Form12")->close(); });
-  QTimer::singleShot(1000, [] {
-    ASSERT_NE(QApplication::activeModalWidget(), nullptr);
-    EXPECT_EQ(QApplication::activeModalWidget()->parent(), nullptr);
-    EXPECT_EQ(Window("Form12"), nullptr);
-    static_cast<QMessageBox*>(QApplication::activeModalWidget())->accept();
+  QTest::qWait(50);
+  QTimer::singleShot(0, [] {
+    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    ASSERT_NE(box, nullptr);
+    EXPECT_EQ(box->parent(), nullptr);
+    box->accept();
+    Click("Form12", "Parar1");
   });
+  QTimer::singleShot(100, [] { Click("Form9", "Seguinte"); });
+  QTimer::singleShot(200, [] { Window("Form12")->close(); });
+  QTimer::singleShot(900, [] { Window("Form9")->close(); });
   Click("Form12", "Calcular");
+  EXPECT_EQ(Window("Form12"), nullptr);
 }
 
 TEST_F(DesktopTest, TheStackHoldsTheGreatestDepthOfHandlers) {
