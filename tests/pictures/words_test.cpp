@@ -145,8 +145,6 @@ TEST(Lesson, HasItsWordsBesideThePictures) {
   const std::pair<std::string, std::string> rows[] = {
       {"definicao", "f'(a) = lim (x→a) (f(x) - f(a))/(x - a)"},
       {"pagina_00", "f'-(a) = lim (x→a-) (f(x) - f(a))/(x - a)"},
-      {"pagina_00", "ponto a (designa-se por f'+(a)) ao limite, se existir,"},
-      {"pagina_01", "que a mostra, caso exista."},
       {"pagina_04", "Por isso, vão utilizar-se as semi-secantes e as semi-"},
       {"pagina_16", "à direita, logo seguido pelas conclusões"},
       {"pagina_19", "Porém, existem clinorama laterais:"},
