@@ -145,11 +145,15 @@ void FindMisplaced(const forms::Control& container, std::set<std::string>& found
   }
 }
 
+// The pages lie on a screen of 1024x768, with room for a title bar above them.
 TEST_F(AllPages, HaveAPlaceForEachControl) {
   Module1::OrigemExemplos = 3;
   std::set<std::string> found;
   for (const auto shown : Pages) {
-    FindMisplaced(shown(), found);
+    const forms::Page& page = shown();
+    EXPECT_TRUE(page.Top >= 330 && page.Top + page.Height <= 768 * 15) << page.Name();
+    EXPECT_TRUE(page.Left >= 0 && page.Left + page.Width <= 1024 * 15) << page.Name();
+    FindMisplaced(page, found);
   }
   EXPECT_EQ(found, (std::set<std::string>{"Form9 Continuar Parar", "Form9 Opções"}));
 }
