@@ -19,8 +19,8 @@ Form2::Form2() : Page("Form2", {120, 690, 15240, 10650}, "CLINORAMA") {
   Sair.Click = [] { forms::End(); };
   ConceitoDerivada.Click = [] { The<Form9>().Show(); };
   Clinorama.Click = [] { The<Form12>().Show(); };
-  // Opened from here, the instructions and the comments begin at their first page.
   BindManualMenu(Instruções, Comentários, Sintaxe, FunçõesDefinidas);
+  // From here the instructions and the comments open at their first page.
   Instruções.Click = [] {
     Module1::PaginaInstrucoes = 1;
     The<Form6>().Show();

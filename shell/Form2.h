@@ -5,8 +5,8 @@
 
 namespace clinorama {
 
-// The presentation page: it opens when the program starts, and its menu leads to all the others.
-// Closing it ends the program.
+// The presentation page: the program starts with it, and its menu opens the other pages. Closing
+// its window ends the program.
 class Form2 : public forms::Page {
  public:
   Form2();

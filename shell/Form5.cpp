@@ -11,27 +11,27 @@
 namespace clinorama {
 namespace {
 
-// Of the client area on the screen: below the function box of the work page, so that a user sees
-// the expression arrive there.
-constexpr double WindowLeft = 1815;
-constexpr double WindowTop = 2250;
-constexpr double WindowWidth = 11850;  // with its frame, as is the height
-constexpr double WindowHeight = 7860;
+// All sizes are in twips. The window opens below the function box of the work page, so that the
+// user sees the expression arrive there.
+constexpr double WindowLeft = 1815;    // of the client area
+constexpr double WindowTop = 2250;     // of the client area
+constexpr double WindowWidth = 11850;  // with the frame
+constexpr double WindowHeight = 7860;  // with the frame
 
-// What `Form12` writes into OrigemExemplos before it opens this window.
+// The value that `Form12` writes into OrigemExemplos before it opens this window.
 constexpr int FromWorkPage = 3;
 
-constexpr double LargeSide = 2250;  // of the picture of a function
-constexpr double SmallSide = 1095;  // of the picture of a derivative
+constexpr double LargeSide = 2250;  // width and height of the picture of a function
+constexpr double SmallSide = 1095;  // width and height of the picture of a derivative
 constexpr double Gap = 60;          // between pictures, and between a picture and its button
 constexpr double ButtonHeight = 420;
 
 constexpr int FirstSmallImage = 19;
 
 struct Example {
-  int Button;  // Command19 and so on
-  double Left;
-  double Top;  // of the button, in the frame
+  int Button;   // its number: 19 is Command19
+  double Left;  // place of the button in its frame
+  double Top;
   const char* Expression;
 };
 
@@ -44,8 +44,8 @@ constexpr std::array<Example, 6> Examples = {{
     {14, 7740, 6300, "5sen(x)/x"},
 }};
 
-// The pictures of an example stand above its button: the function's, and to its right those of the
-// two derivatives, one above the other.
+// The picture of a function stands above the button. To its right stand the pictures of the two
+// derivatives, one above the other.
 forms::Rect LargePlace(const Example& example) {
   return {example.Left, example.Top - Gap - LargeSide, LargeSide, LargeSide};
 }
@@ -76,14 +76,17 @@ void Form5::AddExamples() {
   int image = 1;
   int smallImage = FirstSmallImage;
   for (const Example& example : Examples) {
-    const std::string picture = "examples/exemplo_" + std::to_string(image);
     const std::string expression = example.Expression;
-    images_.emplace_back(FrameClinorama, ImageName(image++), LargePlace(example), picture,
-                         "Gráfico de " + expression);
-    images_.emplace_back(FrameClinorama, ImageName(smallImage++), SmallPlace(example, 1),
-                         picture + "_primeira", "Gráfico da primeira derivada");
-    images_.emplace_back(FrameClinorama, ImageName(smallImage++), SmallPlace(example, 2),
-                         picture + "_segunda", "Gráfico da segunda derivada");
+    const std::string picture = "examples/exemplo_" + std::to_string(image);
+    const auto add = [&](int number, const forms::Rect& place, const std::string& suffix,
+                         const std::string& spokenName) {
+      images_.emplace_back(FrameClinorama, ImageName(number), place, picture + suffix, spokenName);
+    };
+    add(image, LargePlace(example), "", "Gráfico de " + expression);
+    add(smallImage, SmallPlace(example, 1), "_primeira", "Gráfico da primeira derivada");
+    add(smallImage + 1, SmallPlace(example, 2), "_segunda", "Gráfico da segunda derivada");
+    image += 1;
+    smallImage += 2;
 
     forms::CommandButton& button =
         AddButton(FrameClinorama, example.Button, example.Left, example.Top);
@@ -93,7 +96,7 @@ void Form5::AddExamples() {
   }
 }
 
-// The pictures and buttons of a frame that is never seen. Its buttons have no action.
+// Adds the pictures and buttons of a frame that is never shown. Its buttons have no action.
 void Form5::AddUnseenControls(forms::Frame& frame, int firstImage,
                               const std::array<int, 6>& buttons) {
   for (std::size_t i = 0; i < Examples.size(); ++i) {

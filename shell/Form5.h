@@ -14,7 +14,7 @@ class Form5 : public forms::Page {
  public:
   Form5();
 
-  // The frames of the two collections that are never seen, and the one that is.
+  // Only FrameClinorama is ever shown.
   static constexpr forms::Rect FramePlace = {120, 60, 11490, 6780};
   forms::Frame FrameFinitos{*this, "FrameFinitos", FramePlace};
   forms::Frame FrameInfinitos{*this, "FrameInfinitos", FramePlace};

@@ -4,7 +4,7 @@
 
 namespace clinorama {
 
-// Binds the four menu items that stand on several pages to the viewers of the manual.
+// Binds the four menu items of the manual, which several pages have, to its viewers.
 void BindManualMenu(forms::Menu& instructions, forms::Menu& comments, forms::Menu& syntax,
                     forms::Menu& functions);
 

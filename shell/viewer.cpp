@@ -9,13 +9,12 @@
 namespace clinorama {
 namespace {
 
-// Of the client area on the screen: high enough for a window of 11310 twips with its title bar to
-// fit a screen of 768 pixels. At the left, so that the work page shows its function box and its
-// commands beside the manual.
+// Where the client area lies, in twips. The highest viewer, 11310 with its frame, fits a screen of
+// 768 pixels there. At the left the manual leaves the commands of the work page visible.
 constexpr double ViewerLeft = 120;
 constexpr double ViewerTop = 405;
 
-constexpr double PageLeft = 60;
+constexpr double PageLeft = 60;  // of a picture in the client area
 constexpr double PageTop = 120;
 
 std::unique_ptr<forms::Image> MakePage(forms::Page& viewer, const ViewerKind& kind, int page,
@@ -55,8 +54,8 @@ void PageViewer::Form_Load() {
   Label2.Caption = std::to_string(page_);
 }
 
-// A page that the manual does not have stands for the first: so do the instructions open when
-// nobody has yet said where.
+// A number that is no page of this viewer stands for page 1. The instructions open so when their
+// opening page was not set before.
 int PageViewer::OpeningPage() const {
   const int page = kind_.OpeningPage == nullptr ? 1 : *kind_.OpeningPage;
   return page >= 1 && page <= kind_.Pages ? page : 1;

@@ -8,21 +8,21 @@
 
 namespace clinorama {
 
-// What tells one viewer from another. Sizes are in twips.
+// What differs between the viewers. Sizes are in twips.
 struct ViewerKind {
   const char* Name;
   const char* Caption;
   int Pages;
-  double Width;  // of the window with its frame, as is Height
+  double Width;  // of the window with its frame
   double Height;
   double PageWidth;
   double PageHeight;
-  const char* Pictures;             // "manual/sintaxe_" stands for manual/sintaxe_01 and so on
-  const std::int16_t* OpeningPage;  // where the number of the opening page is; null: page 1
+  const char* Pictures;             // "manual/sintaxe_": page 1 is manual/sintaxe_01
+  const std::int16_t* OpeningPage;  // points to the number of the opening page; null: page 1
 };
 
-// A part of the manual: a stack of pictures, one to a page, that two arrows leaf through. All words
-// of the manual are in the pictures. The viewers themselves stand in viewers.h.
+// A part of the manual: a stack of pictures, one for each page, and two arrows to turn the pages.
+// All words of the manual are in the pictures. viewers.h holds the four viewers.
 class PageViewer : public forms::Page {
  public:
   explicit PageViewer(const ViewerKind& kind);
@@ -41,8 +41,8 @@ class PageViewer : public forms::Page {
   void Form_Load() override;
 
  protected:
-  // Closes the viewer and makes it anew at once, hidden and at its opening page: to set a property
-  // of a page that is not loaded loads it.
+  // Closes the viewer and makes it anew at once, hidden and at its opening page, as a page that is
+  // not loaded is loaded by setting one of its properties.
   template <class Viewer>
   void CloseAndRenew() {
     Unload();
@@ -50,7 +50,8 @@ class PageViewer : public forms::Page {
   }
 
  private:
-  // A place in the row of controls, which runs along the middle of what the pages leave below them.
+  // A place in the row of controls, which is centred between the pictures and the lower border.
+  // Image1 must have been made.
   forms::Rect InRow(double left, double width, double height) const;
   int OpeningPage() const;
   void SetaE_Click();

@@ -30,8 +30,8 @@ class Form4 : public PageViewer {
   void UserClose() override { CloseAndRenew<Form4>(); }
 };
 
-// The instructions are really gone when they are closed, so that they open at the page that is
-// asked for by then.
+// Closing the instructions discards them, so that they open next at the page that is asked for
+// then.
 class Form6 : public PageViewer {
  public:
   Form6() : PageViewer(InstructionsViewer) {}

@@ -4,13 +4,13 @@
 
 namespace clinorama {
 
-// What a window has around its client area: borders at the sides, title bar and border above and
-// below. Pages whose size is told with its frame lose so much of it.
+// The frame of a window in twips: borders on all sides, and the title bar. Where a page's size is
+// given with its frame, the client area is smaller by these two.
 constexpr double WindowFrameWidth = 120;
 constexpr double WindowFrameHeight = 405;
 
-// The client area of a window whose width and height, in twips, count its frame in. Left and top
-// are those of the client area.
+// The client area of a window, in twips. Left and top are those of the client area; width and
+// height are those of the window with its frame.
 constexpr forms::Rect ClientAreaOf(double left, double top, double windowWidth,
                                    double windowHeight) {
   return {left, top, windowWidth - WindowFrameWidth, windowHeight - WindowFrameHeight};

@@ -2,6 +2,8 @@
 // pictures, with the definitions before their first use. On the way it drops what changes nothing
 // (nested groups, default attributes, digits beyond a thousandth of a point).
 
+import { DOMParser, onErrorStopParsing } from "@xmldom/xmldom";
+
 const Unsupported = ["text", "style", "script", "foreignObject", "filter", "mask", "pattern"];
 const DefaultAttributes = {
   "fill-rule": "nonzero",
@@ -13,34 +15,26 @@ const DefaultAttributes = {
   y: "0",
 };
 
-// The elements of a document as a tree of {name, attributes, children}. Text between elements is
-// left out: the typesetter writes none, and nested pictures may hold none (see inline).
+// The elements of a document as a tree of {name, attributes, children}; attributes keep the order of
+// the document. Text between elements is left out: the typesetter writes none, and nested pictures
+// may hold none (see inline). Throws for a document that is no XML.
 function parse(document) {
-  const root = { name: "", attributes: {}, children: [] };
-  const open = [root];
-  const markup = document.replace(/<!--[\s\S]*?-->|<\?[\s\S]*?\?>|<!DOCTYPE[^>]*>/g, "");
-  for (const [, close, name, rest, empty] of markup.matchAll(
-    /<(\/?)([\w:-]+)((?:\s+[\w:-]+\s*=\s*(?:"[^"]*"|'[^']*'))*)\s*(\/?)>/g,
-  )) {
-    if (close) {
-      open.pop();
-      continue;
-    }
-    const attributes = {};
-    for (const [, key, a, b] of rest.matchAll(/([\w:-]+)\s*=\s*(?:"([^"]*)"|'([^']*)')/g)) {
-      attributes[key] = a ?? b;
-    }
-    const element = { name, attributes, children: [] };
-    open.at(-1).children.push(element);
-    if (!empty) open.push(element);
-  }
-  return root.children.find((element) => element.name === "svg");
+  const treeOf = (element) => ({
+    name: element.tagName,
+    attributes: Object.fromEntries(Array.from(element.attributes, ({ name, value }) => [name, value])),
+    children: Array.from(element.childNodes).filter(({ nodeType, ELEMENT_NODE }) =>
+      nodeType === ELEMENT_NODE).map(treeOf),
+  });
+  const parser = new DOMParser({ onError: onErrorStopParsing });
+  return treeOf(parser.parseFromString(document, "image/svg+xml").documentElement);
 }
 
 function short(number) {
   const text = String(Math.round(Number(number) * 1000) / 1000);
   return text === "-0" ? "0" : text.replace(/^(-?)0\./, "$1.");
 }
+
+const escaped = (text) => text.replace(/&/g, "&amp;").replace(/</g, "&lt;").replace(/"/g, "&quot;");
 
 const shortNumbers = (text) => text.replace(/-?\d*\.?\d+(e-?\d+)?/gi, short);
 
@@ -164,7 +158,7 @@ export function simplify(document, comment) {
       if (DefaultAttributes[key] === value || key.startsWith("xmlns")) continue;
       const numeric = ["transform", "x", "y", "width", "height", "points"].includes(key);
       const shown = key === "d" ? shortPath(value) : numeric ? shortNumbers(value) : value;
-      text += ` ${key}="${shown}"`;
+      text += ` ${key}="${escaped(shown)}"`;
     }
     const inside = children.map((child) => write(child, matrix)).join("");
     if (name === "g" && inside === "") return "";

@@ -5,6 +5,7 @@
 // Fails for a page that does not compile without a warning or does not fit its size.
 
 import { NodeCompiler } from "@myriaddreamin/typst-ts-node-compiler";
+import crypto from "node:crypto";
 import fs from "node:fs";
 import path from "node:path";
 import { simplify } from "./svg.mjs";
@@ -29,15 +30,11 @@ function sourcesOf(file, found = []) {
   return found;
 }
 
-// FNV-1a with 64 bits over the contents of the files, one after the other. A test computes it too.
+// The SHA-256 of the SHA-256s of the files, each as hexadecimal digits. tests/pictures computes it
+// too.
 function fingerprint(files) {
-  let hash = 0xcbf29ce484222325n;
-  for (const file of files) {
-    for (const byte of fs.readFileSync(file)) {
-      hash = BigInt.asUintN(64, (hash ^ BigInt(byte)) * 0x100000001b3n);
-    }
-  }
-  return hash.toString(16).padStart(16, "0");
+  const sha256 = (data) => crypto.createHash("sha256").update(data).digest("hex");
+  return sha256(files.map((file) => sha256(fs.readFileSync(file))).join(""));
 }
 
 function writeIfNew(file, text) {

@@ -1,0 +1,161 @@
+// The manual teaches the language of expressions. These tests hold its pages against the engine:
+// the functions that they describe, the expressions that they give as examples, and what they say
+// that comes of them. The last test holds the words of the lesson.
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <optional>
+#include <regex>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "base/number_text.h"
+#include "engine/clsEquation.h"
+#include "engine/functions.h"
+
+namespace clinorama::tests {
+namespace {
+
+const std::filesystem::path Resources = CLINORAMA_RESOURCES;
+
+std::string Contents(const std::filesystem::path& file) {
+  std::ifstream stream(Resources / file, std::ios::binary);
+  return {std::istreambuf_iterator<char>(stream), {}};
+}
+
+// The source of a page in one line, without its comments.
+std::string SourceOf(const std::filesystem::path& file) {
+  const std::string source = std::regex_replace(Contents(file), std::regex("(^|\n)//[^\n]*"), "$1");
+  return std::regex_replace(source, std::regex("[ ~\n]+"), " ");
+}
+
+struct Match {
+  std::string Page;  // such as "funcoes_07"
+  std::vector<std::string> Groups;
+};
+
+// All that matches a pattern in the sources of the manual.
+std::vector<Match> Matches(const std::string& pattern) {
+  const std::regex regex(pattern);
+  std::vector<Match> matches;
+  for (const auto& entry : std::filesystem::directory_iterator(Resources / "manual")) {
+    if (entry.path().extension() != ".typ") {
+      continue;
+    }
+    const std::string source = SourceOf(entry.path());
+    for (std::sregex_iterator match(source.begin(), source.end(), regex), end; match != end;
+         ++match) {
+      matches.push_back({entry.path().stem().string(), {match->begin(), match->end()}});
+    }
+  }
+  return matches;
+}
+
+bool InLibrary(const std::string& name) { return engine::FindFunction(name + "(") != nullptr; }
+
+bool HasLine(const std::string& file, const std::string& line) {
+  return ("\n" + Contents(file)).find("\n" + line) != std::string::npos;
+}
+
+struct Outcome {
+  std::optional<double> Value;  // nothing: an error, or a point outside the domain
+  std::string Error;
+};
+
+Outcome Evaluate(const std::string& expression, double x) {
+  clsEquation equation;
+  equation.Equation(expression);
+  equation.Var("x", x);
+  try {
+    equation.Solve();
+    const double value = equation.Solution();
+    return value == clsEquation::ForaDoDominio ? Outcome{} : Outcome{value, ""};
+  } catch (const ErroInterpretador& error) {
+    return {{}, error.Description()};
+  }
+}
+
+// Each is described under its name and stands in the list with the number of its page.
+TEST(ManualFunctions, AreThoseOfTheLibraryAndAreListedWithTheirPages) {
+  const std::vector<Match> matches = Matches(R"re(#funcao\( ?"([^"]*)")re");
+  EXPECT_EQ(matches.size(), 39u);
+  for (const auto& [page, groups] : matches) {
+    const std::string& name = groups[1];
+    SCOPED_TRACE(name);
+    EXPECT_TRUE(InLibrary(name));
+    EXPECT_TRUE(HasLine("manual/" + page + ".txt", name + " "));
+    const int number = std::stoi(page.substr(page.find('_') + 1));
+    EXPECT_TRUE(HasLine("manual/funcoes_02.txt", name + " " + std::to_string(number) + "\n"));
+  }
+}
+
+// An example stands between backquotes; names and signs may stand there too.
+TEST(ManualExamples, HaveAValueSomewhere) {
+  int examples = 0;
+  for (const auto& [page, groups] : Matches("`([^`]+)`")) {
+    const std::string& example = groups[1];
+    if (example.find_first_of("xX0123456789") == std::string::npos || InLibrary(example)) {
+      continue;
+    }
+    const auto hasValue = [&](double x) { return Evaluate(example, x).Value.has_value(); };
+    EXPECT_TRUE(hasValue(2) || hasValue(0.5) || hasValue(-0.5) || hasValue(5))
+        << page << ": " << example << " " << Evaluate(example, 2).Error;
+    ++examples;
+  }
+  EXPECT_GT(examples, 200);
+}
+
+// `7/2` = 3,5 is the very value; `sqr(2)` ≈ 1,4142 is rounded, to four decimals or more.
+TEST(ManualExamples, HaveTheValuesThatThePagesGive) {
+  const std::vector<Match> matches = Matches(R"re(`([^`]+)` (=|≈) (-?[0-9]+(?:,([0-9]+))?))re");
+  EXPECT_GT(matches.size(), 80u);
+  for (const auto& [page, groups] : matches) {
+    const double expected = base::NumberFrom(groups[3]);
+    const double places = std::max(4.0, static_cast<double>(groups[4].size()));
+    const double error =
+        groups[2] == "=" ? 1e-14 * std::fabs(expected) : 0.5 * std::pow(10, -places);
+    const std::optional<double> value = Evaluate(groups[1], 2).Value;
+    ASSERT_TRUE(value.has_value()) << page << ": " << groups[1];
+    EXPECT_NEAR(*value, expected, error) << page << ": " << groups[1];
+  }
+}
+
+TEST(ManualExamples, RaiseTheErrorsThatThePagesGive) {
+  const auto withoutStop = [](const std::string& text) {
+    return std::regex_replace(text, std::regex("\\.$"), "");
+  };
+  const std::vector<Match> matches =
+      Matches(R"re(errado\("([^"]*)"\),? (?:que )?(?:dá|aparece)(?: o erro)? «(.*?)»)re");
+  EXPECT_GT(matches.size(), 15u);
+  for (const auto& [page, groups] : matches) {
+    const std::string wrong = std::regex_replace(groups[1], std::regex(R"(\\\\)"), "\\");
+    EXPECT_EQ(withoutStop(Evaluate(wrong, 2).Error), withoutStop(groups[2]))
+        << page << ": " << wrong;
+  }
+}
+
+// Whole lines as a screen reader gets them, among them the lesson's own slips.
+TEST(Lesson, HasItsWordsBesideThePictures) {
+  const std::pair<std::string, std::string> rows[] = {
+      {"definicao", "f'(a) = lim (x→a) (f(x) - f(a))/(x - a)"},
+      {"pagina_00", "f'-(a) = lim (x→a-) (f(x) - f(a))/(x - a)"},
+      {"pagina_04", "Por isso, vão utilizar-se as semi-secantes e as semi-"},
+      {"pagina_16", "à direita, logo seguido pelas conclusões"},
+      {"pagina_19", "Porém, existem clinorama laterais:"},
+      {"pagina_28", "f'(a) existir (finita ou não), a diz-se um ponto"},
+      {"pagina_28", "- um ponto de reversão se as clinorama laterais"},
+      {"pagina_30", "O ponto a é um ponto de anguloso."},
+  };
+  for (const auto& [page, line] : rows) {
+    EXPECT_TRUE(HasLine("lesson/" + page + ".txt", line + "\n")) << line;
+  }
+}
+
+}  // namespace
+}  // namespace clinorama::tests
