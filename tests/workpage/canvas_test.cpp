@@ -2,9 +2,9 @@
 
 #include <algorithm>
 #include <array>
-#include <optional>
 #include <tuple>
 
+#include "base/number_text.h"
 #include "tests/workpage/work_page_test.h"
 
 namespace clinorama::tests {
@@ -19,53 +19,37 @@ forms::DrawingOperation Text(double x, double y, const std::string& text) {
   return {.What = Kind::Text, .X1 = x, .Y1 = y, .Text = text};
 }
 
-// One drawing for each step on both halves of an axis.
-template <class Draw>
-Operations OnAxis(double step, Draw draw) {
-  Operations drawn;
-  for (const double signedStep : {step, -step}) {
-    for (int i = 1; i * step <= 12; ++i) {
-      const double at = i * signedStep;
-      drawn.push_back(draw(at, (at < 0 ? "-" : " ") + std::to_string(int(i * step)) + " "));
+// Axes, ticks of x, ticks of y, numbers of x, numbers of y.
+using Groups = std::array<Operations, 5>;
+
+Groups Axes(double stepX, double stepY) {
+  Groups drawn;
+  drawn[0] = {{Kind::Line, -12.48, 0, 12.48, 0}, {Kind::Line, 0, -12.48, 0, 12.48}};
+  drawn[0].push_back(Text(12.48 + 2 * Pixel, -5 * Pixel, "x"));
+  drawn[0].push_back(Text(-12 * Pixel, 12.48 + 9 * Pixel, "y"));
+  for (const int sign : {1, -1}) {
+    for (double x = sign * stepX; std::abs(x) <= 12; x += sign * stepX) {
+      drawn[1].push_back({Kind::Line, x, -2 * Pixel, x, 2 * Pixel});
+      drawn[3].push_back(Text(x - 8 * Pixel, -8 * Pixel, base::PrintedNumber(x)));
+    }
+    for (double y = sign * stepY; std::abs(y) <= 12; y += sign * stepY) {
+      drawn[2].push_back({Kind::Line, -2 * Pixel, y, 2 * Pixel, y});
+      drawn[4].push_back(Text(-18 * Pixel, y + 5 * Pixel, base::PrintedNumber(y)));
     }
   }
   return drawn;
 }
 
-Operations TicksOfX(double step) {
-  return OnAxis(step, [](double x, auto) {
-    return forms::DrawingOperation{Kind::Line, x, -2 * Pixel, x, 2 * Pixel};
-  });
-}
-
-// Axes, ticks of x, ticks of y, numbers of x, numbers of y.
-using Groups = std::array<Operations, 5>;
-
-Groups InUnits(double stepX, double stepY) {
-  return {Operations{{Kind::Line, -12.48, 0, 12.48, 0},
-                     {Kind::Line, 0, -12.48, 0, 12.48},
-                     Text(12.48 + 2 * Pixel, -5 * Pixel, "x"),
-                     Text(-12 * Pixel, 12.48 + 9 * Pixel, "y")},
-          TicksOfX(stepX),
-          OnAxis(stepY,
-                 [](double y, auto) {
-                   return forms::DrawingOperation{Kind::Line, -2 * Pixel, y, 2 * Pixel, y};
-                 }),
-          OnAxis(stepX, [](double x, auto i) { return Text(x - 8 * Pixel, -8 * Pixel, i); }),
-          OnAxis(stepY, [](double y, auto i) { return Text(-18 * Pixel, y + 5 * Pixel, i); })};
-}
-
 void ExpectDrawn(const Operations& drawn, const Groups& expected, bool kept) {
-  ASSERT_FALSE(drawn.empty());
-  EXPECT_EQ(drawn[0].What, Kind::Clear);
-  Operations all = {drawn[0]};
+  Operations all;
   for (const Operations& group : expected) {
     all.insert(all.end(), group.begin(), group.end());
   }
-  ASSERT_EQ(drawn.size(), all.size());
-  for (std::size_t i = 1; i < all.size(); ++i) {
+  ASSERT_EQ(drawn.size(), all.size() + 1);
+  EXPECT_EQ(drawn[0].What, Kind::Clear);
+  for (std::size_t i = 0; i < all.size(); ++i) {
     all[i].Kept = kept;
-    EXPECT_EQ(Told(drawn[i]), Told(all[i])) << "drawing " << i;
+    EXPECT_EQ(Told(drawn[i + 1]), Told(all[i])) << "drawing " << i;
   }
 }
 
@@ -75,26 +59,22 @@ TEST_F(Canvas, IsDrawnAnewByClearingAndByEveryReturnWhateverThePensWere) {
   std::size_t off = 0;
   for (auto* setting : {&page.MarcaX, &page.MarcaY, &page.GradNumX, &page.GradNumY}) {
     const bool clearing = ++off % 2 == 0;
-    Plot("20");
+    Plot("20" + std::string(off, ' '));  // unmarks the option
     for (forms::PictureBox* surface : {&page.Picture1, &page.Picture2}) {
       surface->DrawMode = forms::InvertPixel;
       surface->DrawStyle = forms::Dotted;
       surface->DrawWidth = 3;
     }
     page.Picture1.AutoRedraw = false;
-    for (forms::Label* value : {&page.Label2, &page.Label3, &page.Label6}) {
-      value->Caption = "3";
-    }
-    page.Image1(0).Visible = true;
-    page.Image1(1).Visible = true;
+    Disturb();
     setting->Value = false;
-    Groups expected = InUnits(3, 5);
+    Groups expected = Axes(3, 5);
     expected[off].clear();
     The<Form2>().Show();
     clearing ? page.ApagarGráfico.UserClick() : The<Form2>().Clinorama.UserClick();
     ExpectDrawn(onKept, expected, true);
     ExpectDrawn(onLive, expected, false);
-    EXPECT_EQ(State(), clearing ? "|| kept" : "||3 kept");
+    EXPECT_EQ(State(), clearing ? "|| kept right" : "||3 kept right");
     setting->Value = true;
   }
   EXPECT_TRUE(PlottedOnce());
@@ -104,20 +84,20 @@ TEST_F(Canvas, DrawsAxesInRadiansOnTheKeptSurfaceOnly) {
   onKept.clear();
   onLive.clear();
   page.EixosRad.UserClick();
-  Groups expected = InUnits(1, 1);
-  expected[1].clear();
+  Groups expected = Axes(HalfPi, 1);
   expected[3].clear();
-  ExpectDrawn(onLive, expected, false);
-  expected[1] = TicksOfX(HalfPi);
+  using Label = std::tuple<const char*, int, int>;
   for (const auto& [text, halfPis, offset] :
-       {std::tuple("-p/2", -1, 6), std::tuple("-3 p/2", -3, 6), std::tuple("-5 p/2", -5, 6),
-        std::tuple("-7 p/2", -7, 6), std::tuple("-p", -2, 4), std::tuple("-2 p", -4, 6),
-        std::tuple("-3 p", -6, 6), std::tuple("p/2", 1, 4), std::tuple(" 3 p/2", 3, 6),
-        std::tuple(" 5 p/2", 5, 6), std::tuple(" 7 p/2", 7, 6), std::tuple("p", 2, 2),
-        std::tuple(" 2 p", 4, 6), std::tuple(" 3 p", 6, 6)}) {
+       {Label("-p/2", -1, 6), Label("-3 p/2", -3, 6), Label("-5 p/2", -5, 6),
+        Label("-7 p/2", -7, 6), Label("-p", -2, 4), Label("-2 p", -4, 6), Label("-3 p", -6, 6),
+        Label("p/2", 1, 4), Label(" 3 p/2", 3, 6), Label(" 5 p/2", 5, 6), Label(" 7 p/2", 7, 6),
+        Label("p", 2, 2), Label(" 2 p", 4, 6), Label(" 3 p", 6, 6)}) {
     expected[3].push_back(Text(halfPis * HalfPi - offset * Pixel, -6 * Pixel, text));
   }
   ExpectDrawn(onKept, expected, true);
+  expected[1].clear();
+  expected[3].clear();
+  ExpectDrawn(onLive, expected, false);
 }
 
 TEST_F(Canvas, NamesTheNextGraduationOnTheButtonAndWritesEachTextInItsFont) {
@@ -141,17 +121,90 @@ TEST_F(Canvas, NamesTheNextGraduationOnTheButtonAndWritesEachTextInItsFont) {
 
 TEST_F(Canvas, LosesTheGraphToAnotherBackgroundAndNotToAnotherColour) {
   const forms::Color cyan = forms::QBColor(11);
-  for (const auto choice : {std::optional(cyan), std::optional<forms::Color>()}) {
-    host.ChosenColor = choice;
-    onKept.clear();
+  host.ChosenColor = cyan;
+  onKept.clear();
+  page.CorGráfico.UserClick();
+  EXPECT_TRUE(onKept.empty());
+  page.CorFundo.UserClick();
+  EXPECT_EQ(onKept.back().What, Kind::Text) << "the axes are drawn anew";
+  EXPECT_EQ(ColorAt(page.Picture1, page.Picture1.Screen(), 5.5, 3), cyan);
+  EXPECT_EQ(ColorAt(page.Picture2, page.Picture2.Screen(), 5.5, 3), forms::White);
+  EXPECT_EQ(host.ColorsOffered, (std::vector<forms::Color>{forms::Blue, forms::White}));
+}
+
+using Plotting = WorkPageTest;
+
+TEST_F(Plotting, AddsAPointForEachSampleWithinTheRange) {
+  using Case = std::pair<std::string, std::size_t>;
+  forms::Color pen = forms::Blue;
+  host.ChosenColor = forms::Red;
+  for (const auto& [function, points] :
+       {Case("x/2", 48000), Case("11.999", 48000), Case("12", 0), Case("-11.999", 48000),
+        Case("-12", 0), Case("sqr(x-2)", 20000), Case("1/x", 47668), Case("ln(-1)", 0)}) {
+    SCOPED_TRACE(function);
+    page.Picture1.AutoRedraw = false;
+    page.Picture2.AutoRedraw = true;
+    page.Picture1.DrawMode = page.Picture2.DrawMode = forms::InvertPixel;
+    Plot(function);
+    EXPECT_EQ(State(), "|| kept");
+    for (const bool kept : {true, false}) {
+      const Operations& drawn = kept ? onKept : onLive;
+      ASSERT_EQ(drawn.size(), points);
+      for (std::size_t i = 0; i < points; i += 1000) {
+        const auto [x, y] = std::pair(drawn[i].X1, drawn[i].Y1);
+        EXPECT_EQ(Told(drawn[i]), Told({Kind::Point, x, y, 0, 0, pen, forms::CopyPen, 0, 1, kept}));
+        EXPECT_EQ(y == x / 2, function == "x/2");
+      }
+      // The rounding of the steps adds up, and leaves no room for 12 itself.
+      EXPECT_TRUE(points == 0 || drawn.back().X1 == 11.999500000006348);
+    }
     page.CorGráfico.UserClick();
-    EXPECT_TRUE(onKept.empty());
-    page.CorFundo.UserClick();
-    EXPECT_EQ(onKept.back().What, Kind::Text) << "the axes are drawn anew";
-    EXPECT_EQ(ColorAt(page.Picture1, page.Picture1.Screen(), 5.5, 3), cyan);
-    EXPECT_EQ(ColorAt(page.Picture2, page.Picture2.Screen(), 5.5, 3), forms::White);
+    pen = forms::Red;
   }
-  EXPECT_EQ(host.ColorsOffered, (std::vector<forms::Color>{forms::Blue, forms::White, cyan, cyan}));
+  EXPECT_TRUE(host.MessageBoxes.empty());
+}
+
+TEST_F(Plotting, ShowsThePointsAsTheyArriveAndDoesNotGiveWay) {
+  int wrong = 0;
+  page.Picture2.Observer = [&](const forms::DrawingOperation&) {
+    wrong += State() != "|| live busy";
+  };
+  host.Flushes.clear();
+  Plot("3");
+  EXPECT_EQ(wrong, 0);
+  EXPECT_EQ(host.Flushes, std::vector<const forms::PictureBox*>(60, &page.Picture2));
+  EXPECT_EQ(host.Steps, 0);
+}
+
+TEST_F(Plotting, AsksForAFunctionAndLeavesTheLiveSurfaceInFront) {
+  const int before = host.ChangesOf(page);  // the pointer is a property of the page itself
+  Plot("");
+  EXPECT_EQ(host.MessageBoxes, MessageBoxes{Limits("Deve escrever a expressão analítica da função "
+                                                   "que pretende representar graficamente.")});
+  EXPECT_EQ(State(), "|| live");
+  EXPECT_EQ(host.ChangesOf(page), before) << "an hourglass";
+  page.Função1.UserType("x");
+  EXPECT_FALSE(PlottedOnce());
+}
+
+TEST_F(Plotting, StopsAtAnErrorWithThePointsSoFar) {
+  host.DuringMessageBox = [&] {
+    EXPECT_EQ(State(), "|| live");
+    EXPECT_TRUE(host.Focused.empty());
+  };
+  for (const auto& [function, description] :
+       {std::pair("   ", "Expressão inválida"), std::pair("foo(x)", "Função não definida: foo()"),
+        std::pair("10^(100*x)", "Excesso de capacidade.")}) {
+    Plot(function);
+    const std::string text = std::string("Erro na expressão analítica:\n\n") + description;
+    EXPECT_EQ(host.MessageBoxes, MessageBoxes{Limits(text)});
+    EXPECT_EQ(host.Focused, std::vector<std::string>{"Função1"});
+    host.MessageBoxes.clear();
+    host.Focused.clear();
+  }
+  host.DuringMessageBox = nullptr;
+  EXPECT_EQ(onKept.size(), 24022u) << "below 12 up to log10(12)/100, and overflow beyond 3,08";
+  EXPECT_TRUE(PlottedOnce());
 }
 
 }  // namespace

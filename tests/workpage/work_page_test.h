@@ -18,7 +18,6 @@ using Kind = forms::DrawingOperation::Kind;
 using Operations = std::vector<forms::DrawingOperation>;
 using MessageBoxes = std::vector<MessageBox>;
 
-const std::string NotPlotted = "Deve desenhar primeiro o gráfico da função.";
 // How State() tells that a motion has locked its commands.
 const std::string Locked =
     " Função1 DesenharGráfico ApagarGráfico CorGráfico CorFundo EixosRad Exemplos Abcissa"
@@ -26,6 +25,7 @@ const std::string Locked =
 
 // The usual message box of the page.
 inline MessageBox Limits(const std::string& text) { return {text, 64, "Limites"}; }
+const MessageBox NotPlotted = Limits("Deve desenhar primeiro o gráfico da função.");
 
 // A drawing in words, so that it can be compared and read.
 inline std::string Told(const forms::DrawingOperation& drawn) {
@@ -54,6 +54,16 @@ class WorkPageTest : public ApplicationTest {
     onKept.clear();
     onLive.clear();
     page.DesenharGráfico.UserClick();
+  }
+
+  // Shows values and markers and marks an option.
+  void Disturb() {
+    for (forms::Label* value : {&page.Label2, &page.Label3, &page.Label6}) {
+      value->Caption = "3";
+    }
+    page.Image1(0).Visible = true;
+    page.Image1(1).Visible = true;
+    page.DerivadaDireita.Value = true;
   }
 
   // Whether a plotting was attempted: the right option asks for it before it asks for an abscissa.

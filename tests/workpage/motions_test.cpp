@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <map>
 #include <tuple>
 #include <utility>
 
@@ -33,30 +34,30 @@ class LateralDerivative : public WorkPageTest {
 };
 
 TEST_F(LateralDerivative, IsRefusedInThisOrder) {
-  const std::string noFunction = "Não existe função.";
-  const std::string outsideDomain = "Esse ponto não pertence ao domínio da função.";
-  using Case = std::tuple<const Side&, std::string, std::string, std::string>;
+  const MessageBox noFunction{"Não existe função.", 0, "Clinorama"};
+  const MessageBox outsideDomain = Limits("Esse ponto não pertence ao domínio da função.");
+  using Case = std::tuple<const Side&, std::string, std::string, MessageBox>;
   const Case cases[] = {
       {left, "", "", noFunction},
       {right, "", "", noFunction},
       {left, "  ", "", noFunction},
       {right, "  ", "", NotPlotted},
       {left, "1/x", "0", NotPlotted},
-      {left, "1/x", "", "Tem de indicar a abcissa do ponto."},
+      {left, "1/x", "", Limits("Tem de indicar a abcissa do ponto.")},
       {left, "1/x", "0", outsideDomain},
       {right, "sqr(x)", "-1", outsideDomain},
       // On one side of these points the values exceed 1000.
       {left, "1/x", "0.0010005", outsideDomain},
       {right, "1/x", "-0.0010005", outsideDomain},
-      {left, "sqr(x)", "0", "Esta função não tem derivada à esquerda desse ponto."},
-      {right, "sqr(-x)", "0", "Esta função não tem derivada à direita desse ponto."},
+      {left, "sqr(x)", "0", Limits("Esta função não tem derivada à esquerda desse ponto.")},
+      {right, "sqr(-x)", "0", Limits("Esta função não tem derivada à direita desse ponto.")},
       // The code of the row before stays where the function has no guarded operation.
       {left, "x+1", "1", outsideDomain}};
-  for (const auto& [side, function, abscissa, text] : cases) {
+  for (const auto& [side, function, abscissa, box] : cases) {
     SCOPED_TRACE(function + " at " + abscissa);
     page.Função1.UserType(function);
     page.Abcissa.UserType(abscissa);
-    const bool plotted = text != noFunction && text != NotPlotted;
+    const bool plotted = box != noFunction && box != NotPlotted;
     if (plotted) {
       page.DesenharGráfico.UserClick();
     }
@@ -65,12 +66,10 @@ TEST_F(LateralDerivative, IsRefusedInThisOrder) {
     side.Option.UserClick();
     side.Option.UserClick();  // no click while it is marked
     const bool marked = plotted && !abscissa.empty();
-    EXPECT_EQ(host.MessageBoxes,
-              MessageBoxes(marked ? 1 : 2,
-                           text == noFunction ? MessageBox{text, 0, "Clinorama"} : Limits(text)));
-    EXPECT_EQ(State(), side.Direction < 0 ? marked ? "|| kept unkept left" : "|| kept unkept"
-                       : marked           ? "|| kept right"
-                                          : "|| kept");
+    EXPECT_EQ(host.MessageBoxes, MessageBoxes(marked ? 1 : 2, box));
+    const std::string state = side.Direction < 0 ? "|| kept unkept" : "|| kept";
+    const std::string mark = side.Direction < 0 ? " left" : " right";
+    EXPECT_EQ(State(), marked ? state + mark : state);
   }
 }
 
@@ -147,6 +146,56 @@ TEST_F(LateralDerivative, WalksTowardsThePointWithTheCommandsLocked) {
     const forms::DrawingOperation& last = onKept.back();
     expectLine(2 * steps + 2, {Kind::Line, 2, 4, last.X2, last.Y2, forms::Red});
     EXPECT_NEAR(last.X2, 2 + side.Direction * 10 / std::sqrt(17), 1e-3);
+  }
+}
+
+using TangentSweep = WorkPageTest;
+
+TEST_F(TangentSweep, ShowsAndTakesAwayATangentInEachPassWhateverFails) {
+  page.Calcular.UserClick();
+  EXPECT_EQ(host.MessageBoxes, MessageBoxes{NotPlotted});
+  EXPECT_EQ(State(), "|| kept");
+
+  constexpr std::size_t Passes = 24001;
+  const std::pair<const char*, std::map<double, std::string>> slopesOf[] = {
+      {"abs(x)+3", {{-0.001, "-1"}, {0, "0"}, {0.001, "1"}}},
+      // Outside its domain all values are 1000. At 2 only the neighbour on the right is inside.
+      {"sqr(x-2)", {{-12, "0"}, {1.999, "0"}, {2, "-1"}, {3, "0,5"}}},
+      {"2+", {{-12, "0"}, {12, "0"}}},
+      // Squares, coordinates and at last the values themselves go beyond their ranges.
+      {"10^(100*x)", {{-1, "0"}, {0, "230,259"}}},
+      {"x^2/3", {{-12, "-8"}, {-1.5, "-1"}, {1.234, "0,823"}, {12, "8"}}}};
+  page.HScroll1.UserScroll(1);
+  std::vector<std::string> shown;
+  host.EachStep = [&] { shown.push_back(page.Label6.Caption); };
+  host.AtStep(12001, [&] {
+    EXPECT_EQ(State(), "||0 kept unkept inverting moving" + Locked);
+    EXPECT_TRUE(Marks(page.Image1(1), 0, 3));
+  });
+  for (const auto& [function, slopes] : slopesOf) {
+    SCOPED_TRACE(function);
+    Plot(function);
+    onKept.clear();
+    host.MessageBoxes.clear();
+    host.WaitedMilliseconds = host.Steps = 0;
+    shown.clear();
+    page.Calcular.UserClick();
+    EXPECT_EQ(host.WaitedMilliseconds, Passes);
+    EXPECT_TRUE(host.MessageBoxes.empty());
+    for (const auto& [x, slope] : slopes) {
+      EXPECT_EQ(shown.at(static_cast<std::size_t>(std::lround((x + 12) * 1000))), slope) << x;
+    }
+  }
+  EXPECT_EQ(State(), "|| kept unkept");
+  ASSERT_EQ(onKept.size(), 2 * Passes);
+  for (std::size_t pass = 0; pass < Passes; pass += 500) {
+    const forms::DrawingOperation& line = onKept[2 * pass];
+    EXPECT_NEAR(std::hypot(line.X2 - line.X1, line.Y2 - line.Y1), 10, 1e-4);
+    EXPECT_NEAR((line.X1 + line.X2) / 2, -12 + 0.001 * static_cast<double>(pass), 1e-4);
+    for (const int mode : {forms::NotMergePen, forms::InvertPixel}) {
+      EXPECT_EQ(Told(onKept[2 * pass + (mode == forms::InvertPixel)]),
+                Told({Kind::Line, line.X1, line.Y1, line.X2, line.Y2, forms::Black, mode}));
+    }
   }
 }
 
