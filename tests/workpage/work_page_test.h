@@ -7,7 +7,6 @@
 
 #include "base/Module1.h"
 #include "shell/Form2.h"
-#include "tests/support/color_at.h"
 #include "tests/support/scripted_host.h"
 #include "workpage/Form12.h"
 
@@ -73,8 +72,7 @@ class WorkPageTest : public ApplicationTest {
     return host.MessageBoxes.back() == Limits("Tem de indicar a abcissa do ponto.");
   }
 
-  // In words: the three values, what is in front, what differs from a page at rest, and the names
-  // of locked controls.
+  // The three values, what differs from a page at rest, and the locked controls, in words.
   std::string State() const {
     std::string words =
         page.Label2.Caption() + '|' + page.Label3.Caption() + '|' + page.Label6.Caption();
