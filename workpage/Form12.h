@@ -13,8 +13,7 @@ namespace clinorama {
 //
 // The operations live in files named for what they do: canvas.cpp (axes, graduation, colours),
 // plotting.cpp (the graph), lateral_derivative.cpp (semi-secants at a point), tangent_sweep.cpp
-// (the tangent along the graph), page_control.cpp (loading, activation, changes of text, locking,
-// pauses, other pages).
+// (the tangent along the graph), page_control.cpp (look, events, locking, pauses, other pages).
 class Form12 : public forms::Page {
  public:
   Form12();
@@ -132,8 +131,21 @@ class Form12 : public forms::Page {
   void Form_Activate() override;
 
  private:
+  static constexpr double Limit = 12;  // the range is -12 to 12 on both axes
+
   // canvas.cpp
   void DesenharEixos();
+  template <class Draw>
+  void OnBothSurfaces(Draw draw);
+  void ClearCanvas();
+  void SetScale();
+  void DrawAxes();
+  void PrintAxisNames();
+  template <class Draw>
+  void Graduate(double min, double max, const forms::TextBox& step, Draw draw);
+  void DrawTicks();
+  void DrawTickOfX(forms::PictureBox& surface, double x);
+  void PrintNumbers();
   void MarcarRadianos();
   void GraduarRadianos();
   void EixosRad_Click();
@@ -143,39 +155,55 @@ class Form12 : public forms::Page {
 
   // plotting.cpp
   void DesenharGráfico_Click();
+  void BringLiveSurfaceToFront();
+  void BringKeptSurfaceToFront();
+  void PlotPoints();
 
   // lateral_derivative.cpp
   struct Side;
+  class SemiSecant;
   void DerivadaEsquerda_Click();
   void DerivadaDireita_Click();
-  void Derivar(const Side& side);
-  bool Recusar(const Side& side);
+  void RunLateralDerivative(const Side& side);
+  bool InputMissing(bool blanksAreNoFunction);
+  bool PointRefused(const Side& side);
+  void DrawGuides(const SemiSecant& secant);
+  void ShowMarkers(const SemiSecant& secant);
+  void WalkToPoint(SemiSecant& secant, const Side& side);
+  static void ShowSlope(const SemiSecant& secant, forms::Label& value);
+  static void ShowLastSlope(const SemiSecant& secant, const Side& side);
   void TestarDominio();
   void TestarEsquerda();
   void TestarDireita();
-  void TestarLado(double distance);
+  void TestSide(double distance);
   template <class Test>
-  void ComRecuperação(Test test);
+  void WithRecovery(Test test);
 
   // tangent_sweep.cpp
   void Calcular_Click();
 
   // page_control.cpp
-  void EsquecerValores();
+  void SetLook();
+  void BindCanvas();
+  void BindMotions();
+  void BindPages();
+  void ClearDerivatives();
   void BloquearComandos();
   void LibertarComandos();
-  void PermitirComandos(bool allowed);
-  void Pausar(forms::CommandButton& stop, forms::CommandButton& resume);
-  void Retomar(forms::CommandButton& stop, forms::CommandButton& resume);
+  void EnableCommands(bool enabled);
+  void Pause(forms::CommandButton& stop, forms::CommandButton& resume);
+  void Resume(forms::CommandButton& stop, forms::CommandButton& resume);
   void ConceitoDerivada_Click();
   void Exemplos_Click();
   void Relacionar_Click();
-  void MoverMarcador(forms::Image& marker, double x, double y);
+  void MoveMarker(forms::Image& marker, double x, double y);
+  bool GraphMissing();
+  static void Inform(const std::string& text);
 
   bool EmRadianos = false;  // the x axis is graduated in radians
 
-  // The scale of the canvas, in user units: the range of the axes, the margins outside it, and the
-  // size of a logical pixel.
+  // The scale of the canvas, in user units: the range of the axes, the margins outside the range,
+  // and the size of a logical pixel.
   double XMin = 0;
   double XMax = 0;
   double YMin = 0;

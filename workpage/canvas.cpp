@@ -17,18 +17,17 @@ using forms::PictureBox;
 
 namespace {
 
-constexpr double Limit = 12;             // the range is -12 to 12 on both axes
 constexpr double MarginsInRange = 50;    // a margin is this part of the range
 constexpr double Pi = 3.14159;           // the digits that the graduation works with
 constexpr double TickHalf = 2;           // pixels on either side of an axis
 constexpr double RadianLabelDepth = -6;  // pixels from the axis to the top of a label
 
 // The two walks of a graduation, from the origin outwards; the origin itself is left out.
-template <class Mark>
-void WalkBothWays(double min, double max, double step, Mark mark) {
-  const auto unlessOrigin = [&mark](double i) {
+template <class Draw>
+void WalkBothWays(double min, double max, double step, Draw draw) {
+  const auto unlessOrigin = [&draw](double i) {
     if (i != 0) {
-      mark(i);
+      draw(i);
     }
   };
   CountedLoop(0, std::floor(max), step, unlessOrigin);
@@ -38,23 +37,38 @@ void WalkBothWays(double min, double max, double step, Mark mark) {
 }  // namespace
 
 void Form12::DesenharEixos() {
-  const auto onBoth = [this](auto draw) {
-    draw(Picture1);
-    draw(Picture2);
-  };
+  ClearCanvas();
+  SetScale();
+  DrawAxes();
+  PrintAxisNames();
+  DrawTicks();
+  PrintNumbers();
+}
 
-  onBoth([](PictureBox& surface) {
+template <class Draw>
+void Form12::OnBothSurfaces(Draw draw) {
+  draw(Picture1);
+  draw(Picture2);
+}
+
+void Form12::ClearCanvas() {
+  OnBothSurfaces([](PictureBox& surface) {
     surface.ClearPicture();
     surface.ScaleInPixels();
     surface.DrawMode = forms::CopyPen;
     surface.DrawStyle = forms::Solid;
+    surface.DrawWidth = 1;
   });
   Picture1.AutoRedraw = true;
   Image1(0).Visible = false;
   Image1(1).Visible = false;
   Label2.Caption = "";
   Label3.Caption = "";
+}
 
+// The surfaces show two margins beyond the range on every side. Their width and height are read in
+// pixels, so this needs surfaces that ClearCanvas has just left.
+void Form12::SetScale() {
   XMin = -Limit;
   XMax = Limit;
   YMin = -Limit;
@@ -63,74 +77,85 @@ void Form12::DesenharEixos() {
   MargemY = std::abs(YMax - YMin) / MarginsInRange;
   PixelX = std::abs((XMax + 2 * MargemX) - (XMin - 2 * MargemX)) / Picture1.ScaleWidth();
   PixelY = std::abs((YMax + 2 * MargemY) - (YMin - 2 * MargemY)) / Picture1.ScaleHeight();
-
-  onBoth([this](PictureBox& surface) {
+  OnBothSurfaces([this](PictureBox& surface) {
     surface.Scale(XMin - 2 * MargemX, YMax + 2 * MargemY, XMax + 2 * MargemX, YMin - 2 * MargemY);
-    surface.DrawWidth = 1;
+  });
+}
+
+void Form12::DrawAxes() {
+  OnBothSurfaces([this](PictureBox& surface) {
     surface.Line(XMin - MargemX, 0, XMax + MargemX, 0);
     surface.Line(0, YMin - MargemY, 0, YMax + MargemY);
   });
   Image3.Move(XMax + MargemX - 3 * PixelX, 4 * PixelY);
   Image2.Move(-(4 * PixelX), YMax + MargemY);
-  Image3.Visible = true;
-  Image2.Visible = true;
+}
 
-  onBoth([this](PictureBox& surface) {
+// The names have the size of the numbers that were printed last.
+void Form12::PrintAxisNames() {
+  OnBothSurfaces([this](PictureBox& surface) {
     surface.Font.Name = "MS Sans Serif";
     surface.Font.Bold = true;
     surface.PrintAt(XMax + MargemX + 2 * PixelX, -5 * PixelY, "x");
     surface.PrintAt(-12 * PixelX, YMax + MargemY + 9 * PixelY, "y");
   });
+}
 
-  if (MarcaX.Value && !EmRadianos) {
-    WalkBothWays(XMin, XMax, base::NumberFrom(PassoX.Text()), [&](double i) {
-      onBoth(
-          [&](PictureBox& surface) { surface.Line(i, -TickHalf * PixelY, i, TickHalf * PixelY); });
-    });
-  } else if (MarcaX.Value) {
+// Draws at each step of an axis, on both surfaces. The text of the step must be a number.
+template <class Draw>
+void Form12::Graduate(double min, double max, const forms::TextBox& step, Draw draw) {
+  WalkBothWays(min, max, base::NumberFrom(step.Text()),
+               [&](double i) { OnBothSurfaces([&](PictureBox& surface) { draw(surface, i); }); });
+}
+
+void Form12::DrawTickOfX(PictureBox& surface, double x) {
+  surface.Line(x, -TickHalf * PixelY, x, TickHalf * PixelY);
+}
+
+void Form12::DrawTicks() {
+  if (MarcaX.Value && EmRadianos) {
     MarcarRadianos();
+  } else if (MarcaX.Value) {
+    Graduate(XMin, XMax, PassoX,
+             [this](PictureBox& surface, double i) { DrawTickOfX(surface, i); });
   }
   if (MarcaY.Value) {
-    WalkBothWays(YMin, YMax, base::NumberFrom(PassoY.Text()), [&](double i) {
-      onBoth(
-          [&](PictureBox& surface) { surface.Line(-TickHalf * PixelX, i, TickHalf * PixelX, i); });
+    Graduate(YMin, YMax, PassoY, [this](PictureBox& surface, double i) {
+      surface.Line(-TickHalf * PixelX, i, TickHalf * PixelX, i);
     });
   }
+}
 
-  const auto setNumberFont = [](PictureBox& surface) {
+void Form12::PrintNumbers() {
+  const auto setFont = [](PictureBox& surface) {
     surface.Font = {.Name = "MS Serif", .Size = 6, .Bold = true};
   };
-  if (GradNumX.Value && !EmRadianos) {
-    onBoth(setNumberFont);
-    WalkBothWays(XMin, XMax, base::NumberFrom(PassoX.Text()), [&](double i) {
-      onBoth([&](PictureBox& surface) {
-        surface.PrintAt(i - 8 * PixelX, -8 * PixelY, PrintedNumber(i));
-      });
-    });
-  } else if (GradNumX.Value) {
+  if (GradNumX.Value && EmRadianos) {
     GraduarRadianos();
+  } else if (GradNumX.Value) {
+    OnBothSurfaces(setFont);
+    Graduate(XMin, XMax, PassoX, [this](PictureBox& surface, double i) {
+      surface.PrintAt(i - 8 * PixelX, -8 * PixelY, PrintedNumber(i));
+    });
   }
   if (GradNumY.Value) {
-    onBoth(setNumberFont);
-    WalkBothWays(YMin, YMax, base::NumberFrom(PassoY.Text()), [&](double i) {
-      onBoth([&](PictureBox& surface) {
-        surface.PrintAt(-18 * PixelX, i + 5 * PixelY, PrintedNumber(i));
-      });
+    OnBothSurfaces(setFont);
+    Graduate(YMin, YMax, PassoY, [this](PictureBox& surface, double i) {
+      surface.PrintAt(-18 * PixelX, i + 5 * PixelY, PrintedNumber(i));
     });
   }
 }
 
-// The live surface gets no marks in radians, as it is seen for a moment only.
+// The live surface gets no graduation in radians: it is seen only while a graph is plotted.
 void Form12::MarcarRadianos() {
-  WalkBothWays(XMin, XMax, Pi / 2,
-               [this](double i) { Picture1.Line(i, -TickHalf * PixelY, i, TickHalf * PixelY); });
+  WalkBothWays(XMin, XMax, Pi / 2, [this](double i) { DrawTickOfX(Picture1, i); });
 }
 
-// One label on each multiple of π/2 within the range: the first of each kind without a number,
-// the others numbered along a walk. In the font "symbol" the letter p shows as π.
+// One label on each multiple of π/2 within the range. The first of each kind has no number. In the
+// font "symbol" the letter p looks like π.
 void Form12::GraduarRadianos() {
   struct Labels {
-    std::string Unit;    // text of the first label, and what follows the number in the others
+    std::string Unit;    // text of the first label; in the others it follows the number
     double First;        // abscissa of the first label
     double FirstOffset;  // pixels from there to the left edge of its text
     double Second;       // where the numbered labels begin
@@ -170,7 +195,7 @@ void Form12::EixosRad_Click() {
   DesenharEixos();
 }
 
-// The live surface keeps its own ground: white, whatever was chosen.
+// The live surface stays white, whatever colour was chosen.
 void Form12::CorFundo_Click() {
   CommonDialog2.ShowColor();
   Picture1.BackColor(CommonDialog2.Color);
@@ -181,11 +206,7 @@ void Form12::CorFundo_Click() {
 void Form12::CorGráfico_Click() { CommonDialog1.ShowColor(); }
 
 void Form12::ApagarGráfico_Click() {
-  Picture1.ClearPicture();
   DesenharEixos();
-  Image1(0).Visible = false;
-  Label2.Caption = "";
-  Label3.Caption = "";
   Label6.Caption = "";
 }
 

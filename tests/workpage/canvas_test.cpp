@@ -1,9 +1,10 @@
 #include <gtest/gtest.h>
 
-#include <string>
-#include <utility>
-#include <vector>
+#include <algorithm>
+#include <array>
+#include <tuple>
 
+#include "base/number_text.h"
 #include "tests/workpage/work_page_test.h"
 
 namespace clinorama::tests {
@@ -14,155 +15,191 @@ constexpr double HalfPi = 3.14159 / 2;
 
 using Canvas = WorkPageTest;
 
-DrawingOperation Line(double x1, double y1, double x2, double y2) {
-  return {.What = Kind::Line, .X1 = x1, .Y1 = y1, .X2 = x2, .Y2 = y2};
-}
-
-DrawingOperation Text(double x, double y, const std::string& text) {
+forms::DrawingOperation Text(double x, double y, const std::string& text) {
   return {.What = Kind::Text, .X1 = x, .Y1 = y, .Text = text};
 }
 
-// What is drawn for axes with marks on x at the distance of a step, none for 0, and these labels.
-std::vector<std::string> Axes(bool kept, double step, const Operations& labelsOfX) {
-  Operations drawn = {Line(-12.48, 0, 12.48, 0), Line(0, -12.48, 0, 12.48),
-                      Text(12.48 + 2 * Pixel, -5 * Pixel, "x"),
-                      Text(-12 * Pixel, 12.48 + 9 * Pixel, "y")};
-  for (const double x : {step, -step}) {
-    for (int i = 1; step > 0 && i * step <= 12; ++i) {
-      drawn.push_back(Line(i * x, -2 * Pixel, i * x, 2 * Pixel));
-    }
-  }
-  Operations labels = labelsOfX;
+// Axes, ticks of x, ticks of y, numbers of x, numbers of y.
+using Groups = std::array<Operations, 5>;
+
+Groups Axes(double stepX, double stepY) {
+  Groups drawn;
+  drawn[0] = {{Kind::Line, -12.48, 0, 12.48, 0}, {Kind::Line, 0, -12.48, 0, 12.48}};
+  drawn[0].push_back(Text(12.48 + 2 * Pixel, -5 * Pixel, "x"));
+  drawn[0].push_back(Text(-12 * Pixel, 12.48 + 9 * Pixel, "y"));
   for (const int sign : {1, -1}) {
-    for (int i = 1; i <= 12; ++i) {
-      const std::string number = (sign < 0 ? "-" : " ") + std::to_string(i) + " ";
-      drawn.push_back(Line(-2 * Pixel, sign * i, 2 * Pixel, sign * i));
-      labels.push_back(Text(-18 * Pixel, sign * i + 5 * Pixel, number));
+    for (double x = sign * stepX; std::abs(x) <= 12; x += sign * stepX) {
+      drawn[1].push_back({Kind::Line, x, -2 * Pixel, x, 2 * Pixel});
+      drawn[3].push_back(Text(x - 8 * Pixel, -8 * Pixel, base::PrintedNumber(x)));
+    }
+    for (double y = sign * stepY; std::abs(y) <= 12; y += sign * stepY) {
+      drawn[2].push_back({Kind::Line, -2 * Pixel, y, 2 * Pixel, y});
+      drawn[4].push_back(Text(-18 * Pixel, y + 5 * Pixel, base::PrintedNumber(y)));
     }
   }
-  drawn.insert(drawn.end(), labels.begin(), labels.end());
-  std::vector<std::string> told = {"clear"};
-  for (DrawingOperation& operation : drawn) {
-    operation.Kept = kept;
-    told.push_back(Told(operation));
-  }
-  return told;
+  return drawn;
 }
 
-TEST_F(Canvas, DrawsAxesInUnitsWhateverThePensWere) {
-  for (PictureBox* surface : {&page.Picture1, &page.Picture2}) {
-    surface->DrawMode = 6;
-    surface->DrawStyle = 2;
-    surface->DrawWidth = 3;
+void ExpectDrawn(const Operations& drawn, const Groups& expected, bool kept) {
+  Operations all;
+  for (const Operations& group : expected) {
+    all.insert(all.end(), group.begin(), group.end());
   }
-  page.Picture1.AutoRedraw = false;
-  const Recording kept(page.Picture1);
-  const Recording live(page.Picture2);
-  Return();
-  Operations numbers;
-  for (const int sign : {1, -1}) {
-    for (int i = 1; i <= 12; ++i) {
-      const std::string number = (sign < 0 ? "-" : " ") + std::to_string(i) + " ";
-      numbers.push_back(Text(sign * i - 8 * Pixel, -8 * Pixel, number));
+  ASSERT_EQ(drawn.size(), all.size() + 1);
+  EXPECT_EQ(drawn[0].What, Kind::Clear);
+  for (std::size_t i = 0; i < all.size(); ++i) {
+    all[i].Kept = kept;
+    EXPECT_EQ(Told(drawn[i + 1]), Told(all[i])) << "drawing " << i;
+  }
+}
+
+TEST_F(Canvas, IsDrawnAnewByClearingAndByEveryReturnWhateverThePensWere) {
+  page.PassoX.Text = "3";
+  page.PassoY.Text = "5";
+  std::size_t off = 0;
+  for (auto* setting : {&page.MarcaX, &page.MarcaY, &page.GradNumX, &page.GradNumY}) {
+    const bool clearing = ++off % 2 == 0;
+    Plot("20" + std::string(off, ' '));  // unmarks the option
+    for (forms::PictureBox* surface : {&page.Picture1, &page.Picture2}) {
+      surface->DrawMode = forms::InvertPixel;
+      surface->DrawStyle = forms::Dotted;
+      surface->DrawWidth = 3;
     }
+    page.Picture1.AutoRedraw = false;
+    Disturb();
+    setting->Value = false;
+    Groups expected = Axes(3, 5);
+    expected[off].clear();
+    The<Form2>().Show();
+    clearing ? page.ApagarGráfico.UserClick() : The<Form2>().Clinorama.UserClick();
+    ExpectDrawn(onKept, expected, true);
+    ExpectDrawn(onLive, expected, false);
+    EXPECT_EQ(State(), clearing ? "|| kept right" : "||3 kept right");
+    setting->Value = true;
   }
-  EXPECT_EQ(kept.ToldInOrder(), Axes(true, 1, numbers));
-  EXPECT_EQ(live.ToldInOrder(), Axes(false, 1, numbers));
 }
 
 TEST_F(Canvas, DrawsAxesInRadiansOnTheKeptSurfaceOnly) {
-  struct Label {
-    const char* Text;
-    int HalfPis;
-    int Offset;
-  };
-  Operations labels;
-  for (const auto& [text, halfPis, offset] :
-       {Label{"-p/2", -1, 6}, Label{"-3 p/2", -3, 6}, Label{"-5 p/2", -5, 6},
-        Label{"-7 p/2", -7, 6}, Label{"-p", -2, 4}, Label{"-2 p", -4, 6}, Label{"-3 p", -6, 6},
-        Label{"p/2", 1, 4}, Label{" 3 p/2", 3, 6}, Label{" 5 p/2", 5, 6}, Label{" 7 p/2", 7, 6},
-        Label{"p", 2, 2}, Label{" 2 p", 4, 6}, Label{" 3 p", 6, 6}}) {
-    labels.push_back(Text(halfPis * HalfPi - offset * Pixel, -6 * Pixel, text));
-  }
-  const Recording kept(page.Picture1);
-  const Recording live(page.Picture2);
-  host.Texts.clear();
+  onKept.clear();
+  onLive.clear();
   page.EixosRad.UserClick();
-  EXPECT_EQ(kept.ToldInOrder(), Axes(true, HalfPi, labels));
-  EXPECT_EQ(live.ToldInOrder(), Axes(false, 0, {}));
-
-  const forms::Font greek = {.Name = "symbol", .Size = 8, .Bold = false};
-  EXPECT_EQ(std::count_if(host.Texts.begin(), host.Texts.end(),
-                          [&](const forms::TextRun& run) { return run.Font == greek; }),
-            14)
-      << "once for the screen and the kept picture";
+  Groups expected = Axes(HalfPi, 1);
+  expected[3].clear();
+  using Label = std::tuple<const char*, int, int>;
+  for (const auto& [text, halfPis, offset] :
+       {Label("-p/2", -1, 6), Label("-3 p/2", -3, 6), Label("-5 p/2", -5, 6),
+        Label("-7 p/2", -7, 6), Label("-p", -2, 4), Label("-2 p", -4, 6), Label("-3 p", -6, 6),
+        Label("p/2", 1, 4), Label(" 3 p/2", 3, 6), Label(" 5 p/2", 5, 6), Label(" 7 p/2", 7, 6),
+        Label("p", 2, 2), Label(" 2 p", 4, 6), Label(" 3 p", 6, 6)}) {
+    expected[3].push_back(Text(halfPis * HalfPi - offset * Pixel, -6 * Pixel, text));
+  }
+  ExpectDrawn(onKept, expected, true);
+  expected[1].clear();
+  expected[3].clear();
+  ExpectDrawn(onLive, expected, false);
 }
 
-TEST_F(Canvas, WritesTheLettersInTheSizeOfTheLastNumbers) {
-  const forms::Font number = {.Name = "MS Serif", .Size = 6, .Bold = true};
-  forms::Font letter = {.Name = "MS Sans Serif", .Size = 8.25, .Bold = true};
-  for (const char* drawing : {"in units", "in radians", "in units again"}) {
-    EXPECT_EQ(host.Texts.front().Font, letter) << drawing;
-    EXPECT_EQ(host.Texts.back().Font, number) << drawing;
+TEST_F(Canvas, NamesTheNextGraduationOnTheButtonAndWritesEachTextInItsFont) {
+  forms::Font letters = {.Name = "MS Sans Serif", .Size = 8.25, .Bold = true};
+  for (const std::string next : {"radianos", "unidades", "radianos"}) {
+    const auto count = [this](const forms::Font& font) {
+      return std::count_if(host.Texts.begin(), host.Texts.end(),
+                           [&](const forms::TextRun& run) { return run.Font == font; });
+    };
+    const bool inUnits = next == "radianos";
+    EXPECT_EQ(count(letters), 4);
+    EXPECT_EQ(count({.Name = "MS Serif", .Size = 6, .Bold = true}), inUnits ? 96 : 48);
+    EXPECT_EQ(count({.Name = "symbol", .Size = 8, .Bold = false}), inUnits ? 0 : 14);
+    EXPECT_EQ(page.EixosRad.Caption, inUnits ? "Radianos" : "Unidades");
+    EXPECT_EQ(page.EixosRad.ToolTipText, "Graduar o eixo das abcissas em " + next + ".");
     host.Texts.clear();
-    letter.Size = 6;
+    letters.Size = 6;  // that of the numbers printed last
     page.EixosRad.UserClick();
   }
 }
 
-TEST_F(Canvas, PlacesTheArrowHeadsAtTheEndsOfTheAxes) {
-  EXPECT_EQ(std::pair(page.Image3.Left() / 15, page.Image3.Top() / 15), std::pair(618.0, 312.0));
-  EXPECT_EQ(std::pair(page.Image2.Left() / 15, page.Image2.Top() / 15), std::pair(312.0, 11.0));
+TEST_F(Canvas, LosesTheGraphToAnotherBackgroundAndNotToAnotherColour) {
+  host.ChosenColor = forms::Red;
+  onKept.clear();
+  page.CorGráfico.UserClick();
+  EXPECT_TRUE(onKept.empty());
+  page.CorFundo.UserClick();
+  EXPECT_EQ(onKept.back().What, Kind::Text) << "the axes are drawn anew";
+  EXPECT_EQ(page.Picture1.BackColor(), forms::Red);
+  EXPECT_EQ(page.Picture2.BackColor(), forms::White);
+  EXPECT_EQ(host.ColorsOffered, (std::vector<forms::Color>{forms::Blue, forms::White}));
 }
 
-TEST_F(Canvas, NamesOnTheButtonTheGraduationThatAClickBrings) {
-  for (const std::string state : {"radianos", "unidades", "radianos"}) {
-    Return();  // changes nothing of it
-    EXPECT_EQ(page.EixosRad.Caption, state == "radianos" ? "Radianos" : "Unidades");
-    EXPECT_EQ(page.EixosRad.ToolTipText, "Graduar o eixo das abcissas em " + state + ".");
-    page.EixosRad.UserClick();
-  }
-}
+using Plotting = WorkPageTest;
 
-TEST_F(Canvas, LosesTheGraphToAnotherGroundAndNotToAnotherColour) {
-  const forms::Color cyan = forms::QBColor(11);
-  host.ChosenColor = cyan;
-  for (const char* choice : {"made", "cancelled"}) {
-    Plot("3");
-    const Raster before = page.Picture1.Kept();
+TEST_F(Plotting, AddsAPointForEachSampleWithinTheRange) {
+  using Case = std::pair<std::string, std::size_t>;
+  forms::Color pen = forms::Blue;
+  host.ChosenColor = forms::Red;
+  for (const auto& [function, points] :
+       {Case("x/2", 48000), Case("11.999", 48000), Case("12", 0), Case("-11.999", 48000),
+        Case("-12", 0), Case("sqr(x-2)", 20000), Case("1/x", 47668), Case("ln(-1)", 0)}) {
+    SCOPED_TRACE(function);
+    page.Picture1.AutoRedraw = false;
+    page.Picture2.AutoRedraw = true;
+    page.Picture1.DrawMode = page.Picture2.DrawMode = forms::InvertPixel;
+    Plot(function);
+    EXPECT_EQ(State(), "|| kept");
+    for (const bool kept : {true, false}) {
+      const Operations& drawn = kept ? onKept : onLive;
+      ASSERT_EQ(drawn.size(), points);
+      for (std::size_t i = 0; i < points; i += 1000) {
+        const auto [x, y] = std::pair(drawn[i].X1, drawn[i].Y1);
+        EXPECT_EQ(Told(drawn[i]), Told({Kind::Point, x, y, 0, 0, pen, forms::CopyPen, 0, 1, kept}));
+        EXPECT_EQ(y == x / 2, function == "x/2");
+      }
+      // The rounding of the steps adds up, and leaves no room for 12 itself.
+      EXPECT_TRUE(points == 0 || drawn.back().X1 == 11.999500000006348);
+    }
     page.CorGráfico.UserClick();
-    EXPECT_EQ(Differences(page.Picture1.Kept(), before), 0) << choice;
-    page.CorFundo.UserClick();
-    EXPECT_GT(Differences(page.Picture1.Kept(), before), 0) << choice;
-    EXPECT_EQ(PixelsOf(page.Picture1.Screen(), forms::Blue), 0) << choice;
-    EXPECT_EQ(ColorAt(page.Picture1.Screen(), 5.5, 5.5), cyan) << choice;
-    EXPECT_EQ(ColorAt(page.Picture2.Screen(), 5.5, 5.5), forms::White) << choice;
-    host.ChosenColor.reset();
+    pen = forms::Red;
   }
-  EXPECT_EQ(host.ColorsOffered, (std::vector<forms::Color>{forms::Blue, forms::White, cyan, cyan}));
 }
 
-TEST_F(Canvas, IsWipedByClearingAndByEveryReturn) {
-  const Raster empty = page.Picture1.Kept();
-  for (const bool clearing : {true, false}) {
-    SCOPED_TRACE(clearing ? "clearing" : "return");
-    Plot("x");
-    EXPECT_GT(Differences(page.Picture1.Kept(), empty), 0);
-    page.Image1(0).Visible = true;
-    page.Image1(1).Visible = true;
-    for (forms::Label* value : {&page.Label2, &page.Label3, &page.Label6}) {
-      value->Caption = "3";
-    }
-    clearing ? page.ApagarGráfico.UserClick() : Return();
-    for (const PictureBox* surface : {&page.Picture1, &page.Picture2}) {
-      EXPECT_EQ(Differences(surface->Screen(), empty), 0);
-    }
-    EXPECT_EQ(Differences(page.Picture1.Kept(), empty), 0);
-    EXPECT_FALSE(page.Image1(0).Visible || page.Image1(1).Visible);
-    EXPECT_EQ(page.Label2.Caption() + page.Label3.Caption(), "");
-    EXPECT_EQ(page.Label6.Caption, clearing ? "" : "3");
-    EXPECT_TRUE(PlottedOnce());
+TEST_F(Plotting, ShowsThePointsAsTheyArriveAndDoesNotGiveWay) {
+  int wrong = 0;
+  page.Picture2.Observer = [&](const forms::DrawingOperation&) {
+    wrong += State() != "|| live busy";
+  };
+  Plot("3");
+  EXPECT_EQ(wrong, 0);
+  EXPECT_EQ(host.Flushes, std::vector<const forms::PictureBox*>(60, &page.Picture2));
+  EXPECT_EQ(host.Steps, 0);
+}
+
+TEST_F(Plotting, AsksForAFunctionAndLeavesTheLiveSurfaceInFront) {
+  const int before = host.ChangesOf(page);  // the pointer is a property of the page itself
+  Plot("");
+  EXPECT_EQ(host.MessageBoxes, MessageBoxes{Limits("Deve escrever a expressão analítica da função "
+                                                   "que pretende representar graficamente.")});
+  EXPECT_EQ(State(), "|| live");
+  EXPECT_EQ(host.ChangesOf(page), before) << "an hourglass";
+  page.Função1.UserType("x");
+  EXPECT_FALSE(PlottedOnce());
+}
+
+TEST_F(Plotting, StopsAtAnErrorWithThePointsSoFar) {
+  host.DuringMessageBox = [&] {
+    EXPECT_EQ(State(), "|| live");
+    EXPECT_TRUE(host.Focused.empty());
+  };
+  for (const auto& [function, description] :
+       {std::pair("   ", "Expressão inválida"), std::pair("foo(x)", "Função não definida: foo()"),
+        std::pair("10^(100*x)", "Excesso de capacidade.")}) {
+    Plot(function);
+    const std::string text = std::string("Erro na expressão analítica:\n\n") + description;
+    EXPECT_EQ(host.MessageBoxes.back(), Limits(text));
+    EXPECT_EQ(host.Focused, std::vector<std::string>{"Função1"});
+    host.Focused.clear();
   }
+  host.DuringMessageBox = nullptr;
+  EXPECT_EQ(onKept.size(), 24022u) << "below 12 up to log10(12)/100, and overflow beyond 3,08";
+  EXPECT_TRUE(PlottedOnce());
 }
 
 }  // namespace

@@ -1,47 +1,35 @@
 #pragma once
 
-#include <algorithm>
 #include <cmath>
-#include <cstddef>
-#include <functional>
-#include <numeric>
 #include <sstream>
 #include <string>
 #include <vector>
 
 #include "base/Module1.h"
 #include "shell/Form2.h"
-#include "tests/support/color_at.h"
 #include "tests/support/scripted_host.h"
 #include "workpage/Form12.h"
 
 namespace clinorama::tests {
 
-using forms::DrawingOperation;
-using forms::PictureBox;
-using forms::Raster;
 using forms::The;
 using Kind = forms::DrawingOperation::Kind;
 using Operations = std::vector<forms::DrawingOperation>;
+using MessageBoxes = std::vector<MessageBox>;
 
-// How many pixels of two rasters of one size differ.
-inline int Differences(const Raster& a, const Raster& b) {
-  const int count = a.Width() * a.Height();
-  return std::inner_product(a.Data(), a.Data() + count, b.Data(), 0, std::plus<>(),
-                            std::not_equal_to<>());
-}
+// How State() tells that a motion has locked its commands.
+const std::string Locked =
+    " Função1 DesenharGráfico ApagarGráfico CorGráfico CorFundo EixosRad Exemplos Abcissa"
+    " DerivadaEsquerda DerivadaDireita Calcular Relacionar";
 
-inline int PixelsOf(const Raster& raster, forms::Color color) {
-  const int count = raster.Width() * raster.Height();
-  return static_cast<int>(std::count(raster.Data(), raster.Data() + count, color.Rgb));
-}
+// The usual message box of the page.
+inline MessageBox Limits(const std::string& text) { return {text, 64, "Limites"}; }
+const MessageBox NotPlotted = Limits("Deve desenhar primeiro o gráfico da função.");
 
-// A drawing in words, so that lists of them can be compared and read.
-inline std::string Told(const DrawingOperation& drawn) {
-  if (drawn.What == Kind::Clear) {
-    return "clear";
-  }
+// A drawing in words, so that it can be compared and read.
+inline std::string Told(const forms::DrawingOperation& drawn) {
   std::ostringstream out;
+  out << static_cast<int>(drawn.What) << ": ";
   for (const double number : {drawn.X1, drawn.Y1, drawn.X2, drawn.Y2}) {
     out << std::round(number * 1e6) / 1e6 + 0.0 << ' ';
   }
@@ -50,76 +38,71 @@ inline std::string Told(const DrawingOperation& drawn) {
   return out.str();
 }
 
-// What is drawn on a surface for as long as this lives.
-class Recording {
- public:
-  explicit Recording(PictureBox& surface) : surface_(surface) {
-    surface.Observer = [this](const DrawingOperation& operation) { Drawn.push_back(operation); };
-  }
-  ~Recording() { surface_.Observer = nullptr; }
-  Recording(const Recording&) = delete;
-  Recording& operator=(const Recording&) = delete;
-
-  std::vector<std::string> ToldInOrder() const {
-    std::vector<std::string> told;
-    std::transform(Drawn.begin(), Drawn.end(), std::back_inserter(told), Told);
-    return told;
-  }
-
-  Operations Drawn;
-
- private:
-  PictureBox& surface_;
-};
-
 // A test of the work page, which stands open on a machine with one device pixel to a logical one.
 class WorkPageTest : public ApplicationTest {
  protected:
   WorkPageTest() {
-    Module1::PaginaInstrucoes = 0;
-    Module1::PaginaComentarios = 0;
-    Module1::CodigoDominio = 0;
-    Module1::OrigemExemplos = 0;
+    Module1::CodigoDominio = Module1::OrigemExemplos = 0;
     page.Show();
-  }
-
-  // The colour that a raster of the canvas shows at a point of the plane.
-  forms::Color ColorAt(const Raster& raster, double x, double y) const {
-    return tests::ColorAt(page.Picture1, raster, x, y);
+    page.Picture1.Observer = [this](const auto& drawn) { onKept.push_back(drawn); };
+    page.Picture2.Observer = [this](const auto& drawn) { onLive.push_back(drawn); };
   }
 
   void Plot(const std::string& function) {
     page.Função1.UserType(function);
+    onKept.clear();
+    onLive.clear();
     page.DesenharGráfico.UserClick();
+  }
+
+  // Shows values and markers and marks an option.
+  void Disturb() {
+    for (forms::Label* value : {&page.Label2, &page.Label3, &page.Label6}) {
+      value->Caption = "3";
+    }
+    page.Image1(0).Visible = true;
+    page.Image1(1).Visible = true;
+    page.DerivadaDireita.Value = true;
   }
 
   // Whether a plotting was attempted: the right option asks for it before it asks for an abscissa.
   bool PlottedOnce() {
     page.Abcissa.UserType("");
     page.DerivadaDireita.UserClick();
-    const std::string text = host.MessageBoxes.back().Text;
-    host.MessageBoxes.pop_back();
-    page.Abcissa.UserType("2");
-    return text == "Tem de indicar a abcissa do ponto.";
+    return host.MessageBoxes.back() == Limits("Tem de indicar a abcissa do ponto.");
   }
 
-  // How many of the twelve controls that a motion locks are locked.
-  int LockedCommands() const {
-    const std::vector<const forms::Control*> commands = {
-        &page.Função1,  &page.DesenharGráfico,  &page.ApagarGráfico,   &page.CorGráfico,
-        &page.CorFundo, &page.EixosRad,         &page.Abcissa,         &page.Exemplos,
-        &page.Calcular, &page.DerivadaEsquerda, &page.DerivadaDireita, &page.Relacionar};
-    return static_cast<int>(std::count_if(commands.begin(), commands.end(),
-                                          [](const auto* command) { return !command->Enabled; }));
+  // The three values, what differs from a page at rest, and the locked controls, in words.
+  std::string State() const {
+    std::string words =
+        page.Label2.Caption() + '|' + page.Label3.Caption() + '|' + page.Label6.Caption();
+    const auto tell = [&words](bool holds, const char* word) { words += holds ? word : ""; };
+    tell(page.Picture1.Visible, " kept");
+    tell(page.Picture2.Visible, " live");
+    tell(!page.Picture1.AutoRedraw, " unkept");
+    tell(page.Picture1.DrawMode != forms::CopyPen, " inverting");
+    tell(page.MousePointer != forms::MousePointer::Default, " busy");
+    tell(page.Image1(0).Visible, " fixed");
+    tell(page.Image1(1).Visible, " moving");
+    tell(page.DerivadaEsquerda.Value, " left");
+    tell(page.DerivadaDireita.Value, " right");
+    for (const forms::Control* frame : page.Children()) {
+      for (const forms::Control* control : frame->Children()) {
+        tell(!control->Enabled, (" " + control->Name()).c_str());
+      }
+    }
+    return words;
   }
 
-  // Goes to another page and comes back.
-  void Return() {
-    The<Form2>().Show();
-    page.Show();
+  // Whether the middle of a marker is on a point of the plane.
+  bool Marks(const forms::Image& marker, double x, double y) const {
+    return marker.Left == 15 * std::floor(page.Picture1.LogicalX(x - 0.6 * 0.48)) &&
+           marker.Top == 15 * std::floor(page.Picture1.LogicalY(y + 0.6 * 0.48));
   }
 
   Form12& page = The<Form12>();  // not after a test has closed the page
+  Operations onKept;             // what was drawn on the surfaces
+  Operations onLive;
 };
 
 }  // namespace clinorama::tests
