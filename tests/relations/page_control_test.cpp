@@ -58,6 +58,7 @@ TEST_F(PageControlTest, OpensWithLiveCanvasesInUnits) {
     const forms::PictureBox& live = page.Picture1(persistent + 1);
     EXPECT_FALSE(PersistentInView(persistent));
     EXPECT_TRUE(kept.AutoRedraw && !live.AutoRedraw);
+    EXPECT_TRUE(live.ScaleWidth() == 20 && live.ScaleHeight() == -20);
     EXPECT_TRUE(kept.Left() == live.Left() && kept.Top() == live.Top());
     EXPECT_TRUE(kept.Screen().Width() == pixels && live.Screen().Width() == pixels);
     EXPECT_EQ(live.Screen().At(pixels / 2, pixels / 2), forms::Black);
