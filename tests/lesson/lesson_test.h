@@ -44,11 +44,6 @@ class LessonTest : public ApplicationTest {
     Record();
   }
 
-  // Has the user do something in a step of what is about to run, counted from 1.
-  void AtStep(int step, std::function<void()> action) {
-    host.AtStep(host.Steps + step, std::move(action));
-  }
-
   std::string EnabledButtons() const {
     std::string letters;
     for (const auto* button : {&page.Anterior, &page.Seguinte, &page.Parar, &page.Continuar}) {

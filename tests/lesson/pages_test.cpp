@@ -9,12 +9,6 @@
 namespace clinorama::tests {
 namespace {
 
-std::string Number(double value) {
-  std::ostringstream text;
-  text << std::round(value * 100) / 100 + 0.0 << " ";
-  return text.str();
-}
-
 // Drawings in a few words. A segment: its ends, ":" where it is dotted, the first letter of its
 // colour, the width where it is not 1, and the mode of the pen where it does not copy: "&" merges
 // and inverts, "~" inverts. Points that follow one another: the first, the last, colour, number.
@@ -24,28 +18,29 @@ std::string Told(const std::vector<Drawing>& drawings) {
       {0x000000, "k"}, {0x0000FF, "b"}, {0xFF0000, "r"}, {0xFFFFFF, "w"}};
   const std::map<int, std::string> modes = {
       {forms::NotMergePen, "&"}, {forms::InvertPixel, "~"}, {forms::CopyPen, ""}};
-  std::string all;
+  const auto round = [](double value) { return std::round(value * 100) / 100 + 0.0; };
+  std::ostringstream all;
   for (std::size_t i = 0; i < drawings.size(); ++i) {
     const Drawing& now = drawings[i];
     const std::size_t first = i;
-    all += names.contains(now.What) ? names.at(now.What) : now.Text + (now.Text.empty() ? "" : " ");
-    all += Number(now.X1) + Number(now.Y1);
+    all << (names.contains(now.What) ? names.at(now.What) : now.Text);
+    all << (now.Text.empty() ? "" : " ") << round(now.X1) << " " << round(now.Y1);
     if (now.What == Kind::Line || now.What == Kind::Circle) {
-      all += Number(now.X2) + Number(now.Y2);
+      all << " " << round(now.X2) << " " << round(now.Y2);
     } else if (now.What == Kind::Point) {
       while (i + 1 < drawings.size() && drawings[i + 1].What == Kind::Point &&
              drawings[i + 1].Pen == now.Pen) {
         ++i;
       }
-      all += ".. " + Number(drawings[i].X1) + Number(drawings[i].Y1);
+      all << " .. " << round(drawings[i].X1) << " " << round(drawings[i].Y1);
     }
-    const bool dotted = now.What == Kind::Line && now.DrawStyle == forms::Dotted;
-    all += (dotted ? ":" : "") + pens.at(static_cast<int>(now.Pen.Rgb)) +
-           (now.DrawWidth == 1 ? "" : std::to_string(now.DrawWidth)) +
-           (now.What == Kind::Text ? "" : modes.at(now.DrawMode)) +
-           (i == first ? "" : std::to_string(i - first + 1)) + "; ";
+    all << (now.What == Kind::Line && now.DrawStyle == forms::Dotted ? " :" : " ");
+    all << pens.at(static_cast<int>(now.Pen.Rgb));
+    all << (now.DrawWidth == 1 ? "" : std::to_string(now.DrawWidth));
+    all << (now.What == Kind::Text ? "" : modes.at(now.DrawMode));
+    all << (i == first ? "" : std::to_string(i - first + 1)) << "; ";
   }
-  return all;
+  return all.str();
 }
 
 struct PageRow {
@@ -74,17 +69,15 @@ const PageRow Pages[] = {
     {"AS", 0,
      Quadrant +
          "1 2.87 .. 8 7 b7000; a 3.9 -0.1 b; x 6.9 -0.1 b; f(a) -0.8 6.1 b; f(x) -0.8 7.1 b; "
-         "A 3.9 6.5 b; X 6.9 7.5 b; " +
-         "4 5.93 4 0 :b; 0 5.93 4 5.93 :b; "
-         "7 6.94 7 0 :b; 0 6.94 7 6.94 :b; "},
+         "A 3.9 6.5 b; X 6.9 7.5 b; 4 5.93 4 0 :b; 0 5.93 4 5.93 :b; 7 6.94 7 0 :b; "
+         "0 6.94 7 6.94 :b; "},
     {"AS", 0, "4 5.93 8.74 7.52 b; 4 5.93 7 5.93 :b; 7 6.94 7 5.93 :r; "},
     {"PC", 301, "7 6.94 7 0 :b&; 7 6.94 0 6.94 :b&; 4 5.93 4 0 :b~; 4 5.93 0 5.93 :b~; "},
     {"PC", 301,
      "a 3.9 -0.1 b; x 20 20 b; f(a) -0.8 6.1 b; f(x) 20 20 b; A 3.9 6.5 b; X 20 20 b; "
-     "4 5.93 8.74 7.52 w~; "
-     "7 6.94 7 0 :b&; 0 6.94 7 6.94 :b&; 4 5.93 7 5.93 :b&; 4 5.93 8.74 7.52 b&; "
-     "4 5.93 4 0 :b~; 0 5.93 4 5.93 :b~; 4 5.93 4 5.93 :b~; 4 5.93 8.32 8.45 b~; "
-     "4 5.93 8.32 8.45 b~; "},
+     "4 5.93 8.74 7.52 w~; 7 6.94 7 0 :b&; 0 6.94 7 6.94 :b&; 4 5.93 7 5.93 :b&; "
+     "4 5.93 8.74 7.52 b&; 4 5.93 4 0 :b~; 0 5.93 4 5.93 :b~; 4 5.93 4 5.93 :b~; "
+     "4 5.93 8.32 8.45 b~; 4 5.93 8.32 8.45 b~; "},
     {"AS", 0, "4 5.93 8.32 8.45 r2; "},
     {"AS", 0,
      "4 5.93 4 0 :b; 0 5.93 4 5.93 :b; "
@@ -119,9 +112,7 @@ struct Marker {
   double X, Y;
 };
 const double Root = std::sqrt(2);
-const double Fa = std::sqrt(48) - 1;
-const double Fr = std::sqrt(63) - 1;
-const double Fl = std::sqrt(21.75) - 1;
+const double Fa = std::sqrt(48) - 1, Fr = std::sqrt(63) - 1, Fl = std::sqrt(21.75) - 1;
 
 // The visible markers with the points that they show, of a page and those after it.
 const std::map<int, std::vector<Marker>> Markers = {
@@ -187,17 +178,14 @@ class PagesTest : public LessonTest {
       }
       drawn.push_back(drawing);
     };
-    std::size_t first = 0;
-    std::size_t last = 0;
-    host.EachStep = [&] {
-      first = host.Steps == 1 ? drawn.size() : first;
-      last = drawn.size();
-    };
+    std::vector<std::size_t> waits;
+    host.EachStep = [&] { waits.push_back(drawn.size()); };
     page.Seguinte.UserClick();
     page.Picture1.Observer = nullptr;
     std::vector<Drawing> told;
     for (std::size_t i = 0; i < drawn.size(); ++i) {
-      if (i < first || i >= last || drawn[i].DrawMode == forms::CopyPen) {
+      if (waits.empty() || i < waits.front() || i >= waits.back() ||
+          drawn[i].DrawMode == forms::CopyPen) {
         told.push_back(drawn[i]);
       }
     }

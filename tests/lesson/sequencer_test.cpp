@@ -31,27 +31,26 @@ TEST_F(LessonTest, LeadsBackToTheStartOfADrawing) {
 
 TEST_F(LessonTest, PausesAMotionWithItsFigureStanding) {
   GoTo(6);
-  std::vector<double> places;
-  AtStep(100, [&] {
-    places.push_back(page.Image1(5).Left);
+  double place = 0;
+  host.AtStep(100, [&] {
+    place = page.Image1(5).Left;
     page.Parar.UserClick();
   });
-  AtStep(101, [&] {
+  host.AtStep(101, [&] {
     EXPECT_FALSE(page.Parar.Visible);
     EXPECT_TRUE(page.Continuar.Reachable());
     EXPECT_TRUE(page.Image1(7).Visible && page.Image1(13).Visible) << "the rings";
   });
-  AtStep(120, [&] {
-    places.push_back(page.Image1(5).Left);
+  host.AtStep(120, [&] {
+    EXPECT_EQ(page.Image1(5).Left(), place);
     EXPECT_EQ(drawn.back().DrawMode, forms::NotMergePen);
     page.Continuar.UserClick();
     EXPECT_FALSE(page.Continuar.Visible || page.Continuar.Enabled);
     EXPECT_TRUE(page.Parar.Visible);
     page.HScroll1.UserScroll(10);
   });
-  AtStep(220, [&] { page.HScroll1.UserScroll(0); });
+  host.AtStep(220, [&] { page.HScroll1.UserScroll(0); });
   page.Seguinte.UserClick();
-  EXPECT_EQ(places[0], places[1]);
   EXPECT_EQ(host.Steps, 301 + 20);
   EXPECT_EQ(host.WaitedMilliseconds, 100 * 5 + 100 * 10) << "the slider acts from the next step on";
 }
@@ -60,12 +59,12 @@ TEST_F(LessonTest, PausesAMotionWithItsFigureStanding) {
 TEST_F(LessonTest, CallsOtherPagesIntoAMotion) {
   GoTo(22);
   // A later page: it is shown once more after the motion.
-  AtStep(10, [&] {
+  host.AtStep(10, [&] {
     page.Seguinte.UserClick();
     EXPECT_EQ(Texts(), "24");
     EXPECT_EQ(page.Picture1.DrawMode, forms::NotMergePen) << "as the motion has it";
   });
-  AtStep(11, [&] { EXPECT_EQ(drawn.back().DrawMode, forms::NotMergePen); });
+  host.AtStep(11, [&] { EXPECT_EQ(drawn.back().DrawMode, forms::NotMergePen); });
   page.Seguinte.UserClick();
   EXPECT_EQ(host.Steps, 8002);
   EXPECT_EQ(Drawn(Kind::Clear).size(), 2U);
@@ -75,7 +74,7 @@ TEST_F(LessonTest, CallsOtherPagesIntoAMotion) {
   // An earlier page: the motion goes on over its drawing.
   page.Anterior.UserClick();
   Record();
-  AtStep(10, [&] { page.Anterior.UserClick(); });
+  host.AtStep(10, [&] { page.Anterior.UserClick(); });
   page.Seguinte.UserClick();
   EXPECT_EQ(host.Steps, 8002);
   EXPECT_EQ(Drawn(Kind::Clear).size(), 1U);
@@ -85,12 +84,12 @@ TEST_F(LessonTest, CallsOtherPagesIntoAMotion) {
 
   // A motion in the motion: it changes the point A, and its page is shown once more.
   Record();
-  AtStep(10, [&] {
+  host.AtStep(10, [&] {
     page.Seguinte.UserClick();
     page.Seguinte.UserClick();
     EXPECT_EQ(host.Steps, 10 + 8002);
   });
-  AtStep(10 + 8002 + 1, [&] { EXPECT_EQ(drawn.back().Y1, -2); });
+  host.AtStep(10 + 8002 + 1, [&] { EXPECT_EQ(drawn.back().Y1, -2); });
   page.Seguinte.UserClick();
   EXPECT_EQ(host.Steps, 3 * 8002);
   EXPECT_EQ(Texts(), "25");
@@ -99,29 +98,25 @@ TEST_F(LessonTest, CallsOtherPagesIntoAMotion) {
 TEST_F(LessonTest, EndsWhatIsUnderWayWhenThePageIsLeft) {
   for (const auto& [item, lastCall] :
        {std::pair{&Form9::FecharPágina, "Unloaded Form9"}, {&Form9::Clinorama, "Shown Form12"}}) {
-    for (const bool paused : {false, true}) {
-      auto& lesson = forms::The<Form9>();
-      lesson.Show();
-      for (int i = 1; i < 7; ++i) {
-        lesson.Seguinte.UserClick();
-      }
-      host.Steps = 0;
-      if (paused) {
-        host.AtStep(40, [&lesson] { lesson.Parar.UserClick(); });
-      }
-      host.AtStep(50, [&lesson, leave = item] { (lesson.*leave).UserClick(); });
+    auto& lesson = forms::The<Form9>();
+    lesson.Show();
+    for (int i = 1; i < 7; ++i) {
       lesson.Seguinte.UserClick();
-      EXPECT_EQ(host.Steps, 50);
-      EXPECT_EQ(host.PageCalls.back(), lastCall);
-      EXPECT_EQ(forms::The<Form9>().Label3.Caption(), "0");
     }
+    host.Steps = 0;
+    host.AtStep(40, [&lesson] { lesson.Parar.UserClick(); });
+    host.AtStep(50, [&lesson, leave = item] { (lesson.*leave).UserClick(); });
+    lesson.Seguinte.UserClick();
+    EXPECT_EQ(host.Steps, 50);
+    EXPECT_EQ(host.PageCalls.back(), lastCall);
+    EXPECT_EQ(forms::The<Form9>().Label3.Caption(), "0");
   }
 }
 
 TEST_F(LessonTest, EndsTheProgramFromAPauseInsideAMotion) {
   GoTo(6);
-  AtStep(40, [&] { page.Parar.UserClick(); });
-  AtStep(50, [&] { page.AbandonarPrograma.UserClick(); });
+  host.AtStep(40, [&] { page.Parar.UserClick(); });
+  host.AtStep(50, [&] { page.AbandonarPrograma.UserClick(); });
   EXPECT_THROW(page.Seguinte.UserClick(), ProgramEnded);
 }
 

@@ -15,7 +15,6 @@ namespace clinorama::tests {
 
 using Button = forms::CommandButton Form13::*;
 using Drawing = forms::DrawingOperation;
-using Kind = Drawing::Kind;
 
 // Numbers of the palette.
 enum { AnyColor = -1, CurveBlue = 9, Green, Cyan, Red, Magenta, Yellow };
@@ -47,17 +46,14 @@ class RelationsTest : public ApplicationTest {
     (page.*button).UserClick();
   }
 
-  // What was drawn on a canvas of one kind, in a colour of the palette or in any.
-  std::vector<Drawing> Of(int canvas, Kind kind, int color = AnyColor) {
+  // The points on a canvas, in a colour of the palette or in any.
+  std::vector<Drawing> Points(int canvas, int color = AnyColor) {
     auto found = Drawn[canvas];
-    std::erase_if(found, [&](const Drawing& operation) {
-      return operation.What != kind ||
-             (color != AnyColor && operation.Pen != forms::QBColor(color));
+    std::erase_if(found, [&](const Drawing& drawing) {
+      return drawing.What != Drawing::Kind::Point ||
+             (color != AnyColor && drawing.Pen != forms::QBColor(color));
     });
     return found;
-  }
-  std::vector<Drawing> Points(int canvas, int color = AnyColor) {
-    return Of(canvas, Kind::Point, color);
   }
 
   // Whether the persistent canvas of a window is seen; its live twin is seen otherwise.
