@@ -137,20 +137,31 @@ const std::map<int, std::vector<Marker>> Markers = {
     {30, {{16, 0, 3}}},
 };
 
+// At the starts of the moving points, from page 10 on.
+const std::vector<Marker> Rings = {{3, 7, Fr},   {7, 7, 0},   {13, 0, Fr},
+                                   {4, 1.5, Fl}, {8, 1.5, 0}, {15, 0, Fl}};
+
 class PagesTest : public LessonTest {
  protected:
-  void ExpectMarkers(const std::vector<Marker>& markers) {
+  void ExpectAt(const std::vector<Marker>& markers) {
+    const double corner = page.Picture1.ScaleWidth() == 11 ? 0.12 : 0.24;
+    for (const auto& [index, x, y] : markers) {
+      const forms::Image& image = page.Image1(index);
+      EXPECT_EQ(image.Left / 15, std::floor(page.Picture1.LogicalX(x - corner))) << index;
+      EXPECT_EQ(image.Top / 15, std::floor(page.Picture1.LogicalY(y + corner))) << index;
+    }
+  }
+
+  void ExpectMarkersOf(int number) {
+    const auto& markers = std::prev(Markers.upper_bound(number))->second;
+    ExpectAt(markers);
     std::size_t visible = 0;
     for (int i = page.Image1.First(); i <= page.Image1.Last(); ++i) {
       visible += page.Image1(i).Visible;
     }
     EXPECT_EQ(visible, markers.size());
-    const double corner = page.Picture1.ScaleWidth() == 11 ? 0.12 : 0.24;
-    for (const auto& [index, x, y] : markers) {
-      const forms::Image& image = page.Image1(index);
-      EXPECT_TRUE(image.Visible) << index;
-      EXPECT_EQ(image.Left / 15, std::floor(page.Picture1.LogicalX(x - corner))) << index;
-      EXPECT_EQ(image.Top / 15, std::floor(page.Picture1.LogicalY(y + corner))) << index;
+    for (const Marker& marker : markers) {
+      EXPECT_TRUE(page.Image1(marker.Index).Visible) << marker.Index;
     }
   }
 
@@ -179,7 +190,13 @@ class PagesTest : public LessonTest {
       drawn.push_back(drawing);
     };
     std::vector<std::size_t> waits;
-    host.EachStep = [&] { waits.push_back(drawn.size()); };
+    host.EachStep = [&] {
+      waits.push_back(drawn.size());
+      ringsShown =
+          static_cast<int>(std::count_if(Rings.begin(), Rings.end(), [&](const Marker& ring) {
+            return page.Image1(ring.Index).Visible();
+          }));
+    };
     page.Seguinte.UserClick();
     page.Picture1.Observer = nullptr;
     std::vector<Drawing> told;
@@ -191,6 +208,8 @@ class PagesTest : public LessonTest {
     }
     return Told(told);
   }
+
+  int ringsShown = 0;  // in the last step of a motion
 };
 
 TEST_F(PagesTest, OneByOneForwardsAndBack) {
@@ -199,7 +218,11 @@ TEST_F(PagesTest, OneByOneForwardsAndBack) {
     const PageRow& row = Pages[std::min(number, 30) - 1];
     EXPECT_EQ(ShowNext(row, std::to_string(number)), row.Drawing);
     ExpectFiguresTakenAway();
-    ExpectMarkers(std::prev(Markers.upper_bound(number))->second);
+    ExpectMarkersOf(number);
+    if (number == 12) {
+      ExpectAt(Rings);
+      EXPECT_EQ(ringsShown, 3) << "those of the left side";
+    }
     EXPECT_EQ(host.Steps, row.Steps);
     EXPECT_EQ(host.WaitedMilliseconds, 5 * row.Steps);
     EXPECT_EQ(EnabledButtons(), number == 1 ? "S" : number == 23 ? "ASPC" : "AS");
@@ -211,6 +234,9 @@ TEST_F(PagesTest, OneByOneForwardsAndBack) {
     EXPECT_EQ(page.Label3.Caption(), std::to_string(to));
     EXPECT_EQ(Texts(), (to == 1 ? "definition " : "") + std::to_string(to));
     EXPECT_EQ(page.Picture1.ScaleWidth(), to == 5 ? 11 : 20);
+    if (to != 15) {
+      ExpectMarkersOf(to);
+    }
     if (to == 15 || to == 1) {  // the drawing before stays
       EXPECT_EQ(ColorAt(page.Picture1, page.Picture1.Kept(), to == 1 ? -4 : -9, 0),
                 to == 1 ? forms::Blue : forms::Black);

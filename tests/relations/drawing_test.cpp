@@ -143,8 +143,6 @@ TEST_F(DrawingTest, Polynomials) {
       {&F::ExtremosFunção, "9-x^2", 1, AnyColor, 0},
       {&F::ExtremosFunção, "2-x^2", 1, Red, 1, 0, 0, {2}, 7},
       {&F::ExtremosFunção, "x^4-2", 1, Red, 1, 0, 0, {-2}, 7},
-      {&F::ExtremosFunção, "x^3", 1, AnyColor, 0},
-      {&F::InflexõesFunção, "3", 1, AnyColor, 0},
       {&F::InflexõesFunção, "(x-0.0035)^3+9", 1, Green, 1, 0.01, 0.01, {9}, 7},
       {&F::ZerosPrimeira, "x^2", 3, Red, 10, -0.004, 0.005, {-0.001, 2}, 5},
       {&F::ZerosPrimeira, "x/105", 3, Red, 15999, -7.999, 7.999, {1 / 105.0}, 5},
@@ -178,7 +176,6 @@ TEST_F(DrawingTest, FailureAtOneAbscissa) {
   };
   Press(&F::DesenharPrimeira, "x+" + OneFailure);
   EXPECT_EQ(Points(3).size(), 15998u);
-  EXPECT_TRUE(near(3, 1).empty());
   ASSERT_EQ(near(3, 1.001).size(), 1u);
   EXPECT_NEAR(near(3, 1.001)[0].Y1, 2, 1e-6);
 

@@ -2,7 +2,6 @@
 // returning.
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 
 #include "base/number_text.h"
@@ -35,17 +34,16 @@ TEST_F(PageControlTest, Layout) {
   for (const forms::Container* outer : std::initializer_list<const forms::Container*>{
            &page, &page.Frame1, &page.Frame2, &page.Frame4, &page.Frame5}) {
     for (const forms::Control* a : outer->Children()) {
+      SCOPED_TRACE(a->Name());
       if (const auto* button = dynamic_cast<const forms::CommandButton*>(a)) {
         EXPECT_EQ(icons.emplace(button->Caption, button->Picture).first->second, button->Picture);
       }
-      EXPECT_TRUE(a->Left >= 0 && a->Left + a->Width <= outer->Width && a->Top >= 0 &&
-                  a->Top + a->Height <= outer->Height)
-          << a->Name();
+      const double right = a->Left + a->Width;
+      const double bottom = a->Top + a->Height;
+      EXPECT_TRUE(a->Left >= 0 && a->Top >= 0 && right <= outer->Width && bottom <= outer->Height);
       for (const forms::Control* b : outer->Children()) {
-        EXPECT_TRUE(a == b || !a->Visible || !b->Visible || a->Left + a->Width <= b->Left ||
-                    b->Left + b->Width <= a->Left || a->Top + a->Height <= b->Top ||
-                    b->Top + b->Height <= a->Top)
-            << a->Name() << " and " << b->Name();
+        EXPECT_TRUE(a == b || !a->Visible || !b->Visible || right <= b->Left || bottom <= b->Top ||
+                    b->Left + b->Width <= a->Left || b->Top + b->Height <= a->Top);
       }
     }
   }
@@ -172,26 +170,19 @@ TEST_F(PageControlTest, EachWindowHasItsOwnColoursAndGraduation) {
 
 // Leaving toggles: function, first derivative, and the second one only if the first came to units.
 TEST_F(PageControlTest, CaptionsAfterLeavingAndReturning) {
-  struct Row {
-    std::array<bool, 3> Radians;  // of the windows when the user leaves
-    std::array<const char*, 3> Captions;
-  };
-  const char* const u = "Unidades";
-  const char* const r = "Radianos";
-  for (const Row& row : {Row{{false, true, false}, {u, r, u}},
-                         {{true, false, true}, {r, u, u}},
-                         {{true, true, true}, {r, r, r}},
-                         {{false, false, false}, {u, u, r}}}) {
-    for (std::size_t i = 0; i < 3; ++i) {
-      if (row.Radians[i]) {
+  // The graduations when the user leaves, and the first letters of the captions afterwards.
+  for (const auto& [left, captions] :
+       {std::pair{"uru", "URU"}, {"rur", "RUU"}, {"rrr", "RRR"}, {"uuu", "UUR"}}) {
+    for (int i = 0; i < 3; ++i) {
+      if (left[i] == 'r') {
         Press(Windows[i].Toggle);
       }
     }
     Press(&F::Sair);
     EXPECT_FALSE(page.Visible());
     page.Show();
-    for (std::size_t i = 0; i < 3; ++i) {
-      EXPECT_EQ((page.*Windows[i].Toggle).Caption(), row.Captions[i]) << i;
+    for (int i = 0; i < 3; ++i) {
+      EXPECT_EQ((page.*Windows[i].Toggle).Caption().front(), captions[i]) << left << i;
       EXPECT_FALSE(page.*Windows[i].Radians);
       EXPECT_EQ(Drawn[Windows[i].Persistent].back().Text, "y");
     }
