@@ -10,17 +10,18 @@
 namespace clinorama {
 
 namespace lesson {
+struct HalfMotion;
 struct LabelPlaces;
 struct Side;
 }  // namespace lesson
 
 // The lesson about the concept of derivative: 31 pages, numbered 0 to 30, each with a text on the
-// right and a drawing on the left. A page's drawing may build on the one before: scale, pen,
-// markers and the end of the semi-secant stay as a page leaves them.
+// right and a drawing on the left. A page may draw over the page before it: scale, pen, markers and
+// the end of the semi-secant stay as a page leaves them.
 //
-// The operations live in files named for what they do: sequencer.cpp (the table of pages, the
-// buttons, the menu), scene_parts.cpp (axes, labels and markers that scenes share), scenes.cpp
-// (the still drawings), motions.cpp (the moving ones). The functions are in figures.h.
+// sequencer.cpp holds the table of pages, the buttons and the menu; scene_parts.cpp the axes,
+// labels and markers that scenes share; scenes.cpp the still drawings; motions.cpp the moving ones;
+// figures.h the functions.
 class Form9 : public forms::Page {
  public:
   Form9();
@@ -31,10 +32,10 @@ class Form9 : public forms::Page {
       *this, "Label1", {420, 360, 8460, 405}, "CONCEITO DE DERIVADA DE UMA FUNÇÃO NUM PONTO "};
 
   forms::PictureBox Picture1{*this, "Picture1", {60, 1140, 9465, 9465}, "Figura da página"};
-  // The markers of points; their looks are in scene_parts.cpp.
+  // The markers of points; scene_parts.cpp holds the table of their pictures.
   forms::ControlArray<forms::Image> Image1{
       "Image1", 0, 19,
-      [this](int index, const std::string& name) { return NovoMarcador(index, name); }};
+      [this](int index, const std::string& name) { return NewMarker(index, name); }};
   forms::Image Image5{Picture1,
                       "Image5",
                       {0, 0, 8539, 9816},
@@ -42,21 +43,20 @@ class Form9 : public forms::Page {
                       "Definição de derivada de uma função num ponto"};
   // The texts of the pages. The last three are blank.
   forms::ControlArray<forms::Image> Image4{
-      "Image4", 0, 34,
-      [this](int index, const std::string& name) { return NovoTexto(index, name); }};
+      "Image4", 0, 34, [this](int index, const std::string& name) { return NewText(index, name); }};
 
   forms::Frame Opções{*this, "Opções", {9600, 9420, 5535, 1215}, "Opções"};
   forms::CommandButton Seguinte{
       Opções, "Seguinte", {300, 360, 615, 615}, "Seguinte", "icons/seguinte"};
   forms::CommandButton Anterior{
       Opções, "Anterior", {1080, 360, 615, 615}, "Anterior", "icons/anterior"};
-  // Under Parar, beside which a strip of it shows until the first pause.
+  // Partly under Parar: until the first pause a strip of Continuar is visible beside it.
   forms::CommandButton Continuar{
       Opções, "Continuar", {2220, 360, 615, 615}, "Continuar", "icons/continuar"};
   forms::CommandButton Parar{Opções, "Parar", {2280, 360, 615, 615}, "Parar", "icons/parar"};
   forms::Label Label2{Opções, "Label2", {3480, 300, 1020, 195}, "Página activa:"};
   forms::Label Label3{Opções, "Label3", {4620, 300, 675, 255}};
-  // Milliseconds that a step of a motion waits: the left end is the slowest.
+  // How many milliseconds a step of a motion waits: 10 at the left end, 0 at the right end.
   forms::HScrollBar HScroll1{Opções, "HScroll1", {3240, 720, 2175, 315}, 10, 0, 5, "Velocidade"};
 
   forms::Menu Ficheiro{*this, "Ficheiro", "Ficheiro"};
@@ -72,47 +72,49 @@ class Form9 : public forms::Page {
 
  private:
   // sequencer.cpp
-  struct Botões;
-  struct Página;
-  static const Página Páginas[LastPage];
-  std::unique_ptr<forms::Image> NovoTexto(int index, const std::string& name);
+  struct ButtonSet;
+  struct LessonPage;
+  static const LessonPage LessonPages[LastPage];
+  std::unique_ptr<forms::Image> NewText(int index, const std::string& name);
   void Seguinte_Click();
   void Anterior_Click();
   void Parar_Click();
   void Continuar_Click();
   void Clinorama_Click();
-  void MostrarPágina(int number);
-  void PermitirBotões(const Botões& buttons);
-  void MostrarDefinição();
+  void ShowPage(int number);
+  void EnableButtons(const ButtonSet& buttons);
+  void ShowDefinition();
 
   // scene_parts.cpp
-  struct Eixos;
-  std::unique_ptr<forms::Image> NovoMarcador(int index, const std::string& name);
-  void OcultarMarcadores();
-  void Mover(int marker, double x, double y, double corner);
-  void Colocar(int marker, double x, double y, double corner);
-  void MoverPonto(const lesson::Side& side, double x, double y);
-  void DesenharEixos(const Eixos& axes);
+  struct AxesLayout;
+  std::unique_ptr<forms::Image> NewMarker(int index, const std::string& name);
+  void HideMarkers();
+  void MoveMarker(int marker, double x, double y, double corner);
+  void PlaceMarker(int marker, double x, double y, double corner);
+  void MovePoint(const lesson::Side& side, double x, double y);
+  void DrawAxes(const AxesLayout& axes);
   void EixosQuadrante();
   void EixosMargem();
-  void MarcarVertical(double top);
-  void Rotular(const lesson::LabelPlaces& places);
+  void DrawVertical(double top);
+  void DrawExampleAbscissa();
+  void DrawCoordinates(double x, double y);
+  void PrintLabels(const lesson::LabelPlaces& places);
   void MarcarPontoA();
-  void MarcarInicio(const lesson::Side& side);
+  void PlaceAtStart(const lesson::Side& side);
   void MarcarPontoDireita();
   void ExemploUm();
-  void CalcularExtremo(double x, double y, double length);
-  void PrepararSemiSecante(const lesson::Side& side);
-  void DesenharSemiSecante();
-  void DesenharSemiSecante(forms::Color color);
+  void ComputeEnd(double x, double y, double length);
+  void SetSemiSecant(const lesson::Side& side);
+  void DrawSemiSecant();
+  void DrawSemiSecant(forms::Color color);
 
   // scenes.cpp
   template <class Function>
-  void DesenharCurva(double from, double to, Function f, forms::Color color);
+  void DrawCurve(double from, double to, Function f, forms::Color color);
   template <class Function, class Accepts>
-  void DesenharCurva(double from, double to, Function f, forms::Color color, Accepts accepts);
+  void DrawCurve(double from, double to, Function f, forms::Color color, Accepts accepts);
   template <class Function>
-  void DesenharRamo(double from, double to, Function f);
+  void DrawBoundedCurve(double from, double to, Function f);
   void CenaCircunferencia();
   void CenaParabola();
   void CenaTangenteDivide();
@@ -129,21 +131,23 @@ class Form9 : public forms::Page {
   // motions.cpp
   void EsperarPasso();
   template <class Draw>
-  void PassarFigura(Draw draw);
+  void ShowFigureInPassing(Draw draw);
   template <class DrawLegs>
-  void RodarSemiSecante(const lesson::Side& side, DrawLegs drawLegs);
+  void TurnSemiSecant(const lesson::Side& side, DrawLegs drawLegs);
   void AproximarPonto(const lesson::Side& side);
   void AproximarPontoDireita();
   void AproximarSemiSecanteDireita();
   void AproximarPontoEsquerda();
   void AproximarSemiSecanteEsquerda();
+  void TurnToLimit(const lesson::HalfMotion& half, double start, double step);
   void MovimentoSemiSecantes();
 
   int PaginaActiva = 0;        // 0 to LastPage
-  bool PodeContinuar = false;  // false holds the wait of a pause
+  bool PodeContinuar = false;  // false while a pause waits
 
-  // The semi-secant, in user units: its fixed point A, a point X that it goes through, and the end
-  // beyond. A page that is entered inside a motion changes them under it.
+  // The semi-secant, in user units: it starts at the fixed point A, goes through the point X and
+  // ends at Extremo. A page that the user opens inside a motion changes these values for that
+  // motion too.
   double AbcissaA = 0;
   double OrdenadaA = 0;
   double AbcissaX = 0;

@@ -5,15 +5,15 @@
 
 namespace clinorama::lesson {
 
-// What the scenes and motions of the lesson share: its functions, the two sides of the point a,
-// and the numbers of pictures.
+// What the scenes and motions of the lesson share: the functions, the two sides of the point a and
+// the numbers of the markers.
 
-// From a point to the corner of the marker that shows it, in user units: half a marker in the
-// scale -1..10, and in the scale -10..10.
+// Distance from a point to the upper left corner of its marker, in user units: half the size of a
+// marker, in the scale -1..10 and in the scale -10..10.
 inline constexpr double QuadrantCorner = 0.12;
 inline constexpr double MarginCorner = 0.24;
 
-// The row of a page in the table of a family, which must have one.
+// The row of a page in a table; the table must have one.
 template <class Row, std::size_t Count>
 const Row& RowOfPage(const Row (&table)[Count], int page) {
   const Row* row = table;
@@ -23,10 +23,10 @@ const Row& RowOfPage(const Row (&table)[Count], int page) {
   return *row;
 }
 
-// The function of the pages about one point: the upper half of a circle, from 0 to 16.
+// The function of pages 5 to 15: a half circle of centre (8, -1) and radius 8, x from 0 to 16.
 inline double FuncaoF(double x) { return std::sqrt(16 * x - x * x) - 1; }
 
-// The functions of the examples. All have a = 0.
+// The functions of the other pages; the examples from page 16 on have a = 0.
 inline double Parabola(double x) { return x * x / 4 - 3; }
 inline double Cubic(double x) { return (x * x * x - 10 * x) / 15; }
 inline double LeftBranch(double x) { return x * x / 5 - 2; }
@@ -38,8 +38,8 @@ inline double Corner(double x) { return -std::abs(x) + 3; }
 inline constexpr double PointA = 4;
 inline constexpr double SemiSecantLength = 5;
 
-// A side of the point a: where x starts, its step towards a, and the markers of the moving point
-// with the rings that keep its start in view.
+// A side of the point a: where x starts, its step towards a, the markers of the moving point, and
+// the rings that mark its start.
 struct Side {
   struct Markers {
     int OnGraph;  // X
@@ -60,21 +60,29 @@ inline constexpr Side LeftSide = {.Start = 1.5,
                                   .Moving = {.OnGraph = 2, .OnAxisX = 6, .OnAxisY = 14},
                                   .Rings = {.OnGraph = 4, .OnAxisX = 8, .OnAxisY = 15}};
 
-struct Point {
+// One of the two semi-secants of an example: the function that its point moves on, and its length.
+struct HalfMotion {
+  double (*Function)(double);
+  double Length;
+};
+
+struct Position {
   double X;
   double Y;
 };
 
 // Where the six labels of the pages about FuncaoF are written.
 struct LabelPlaces {
-  Point a;
-  Point x;
-  Point fa;
-  Point fx;
-  Point A;
-  Point X;
+  Position a;
+  Position x;
+  Position fa;
+  Position fx;
+  Position A;
+  Position X;
 };
-// A label that is left out is written outside the surface.
-inline constexpr Point Outside = {20, 20};
+// A label that is not to be seen is written here, outside the surface.
+inline constexpr Position Outside = {20, 20};
+// The label of a = 0 in an example, below the axis in the margin.
+inline constexpr Position LabelOfA = {0, -9.4};
 
 }  // namespace clinorama::lesson

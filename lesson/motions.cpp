@@ -1,5 +1,5 @@
-// The motions of the lesson: a point that tends to a, and semi-secants that turn to their limits.
-// The marks that a passing figure leaves where it crosses other drawing are wanted.
+// The motions of the lesson: a point that tends to a, and semi-secants that turn to their limits. A
+// figure in motion leaves small marks where it crosses other drawing; they belong to the lesson.
 
 #include "base/counted_loop.h"
 #include "lesson/Form9.h"
@@ -12,17 +12,17 @@ using namespace lesson;  // NOLINT(google-build-using-namespace): names of this 
 void Form9::EsperarPasso() { Wait(HScroll1.Value); }
 
 template <class Draw>
-void Form9::PassarFigura(Draw draw) {
+void Form9::ShowFigureInPassing(Draw draw) {
   forms::ShowInPassing(Picture1, draw, [this] { EsperarPasso(); });
 }
 
-// The point x of a side slides towards a, X along the graph and f(x) along its axis; at the end
-// they go back to their start, for the next page.
+// The point x of a side moves towards a, X along the graph and f(x) along its axis. At the end they
+// go back to their start, where the next page needs them.
 void Form9::AproximarPonto(const Side& side) {
   base::CountedLoop(side.Start, PointA, side.Step, [&](double x) {
     const double y = FuncaoF(x);
-    MoverPonto(side, x, y);
-    PassarFigura([&] {
+    MovePoint(side, x, y);
+    ShowFigureInPassing([&] {
       Picture1.DrawStyle = forms::Dotted;
       Picture1.Line(x, y, x, 0);
       Picture1.Line(x, y, 0, y);
@@ -30,7 +30,7 @@ void Form9::AproximarPonto(const Side& side) {
   });
   Image1(side.Rings.OnAxisX).Visible = false;
   Image1(side.Rings.OnAxisY).Visible = false;
-  MoverPonto(side, side.Start, FuncaoF(side.Start));
+  MovePoint(side, side.Start, FuncaoF(side.Start));
 }
 
 void Form9::AproximarPontoDireita() {
@@ -40,7 +40,7 @@ void Form9::AproximarPontoDireita() {
   AproximarPonto(RightSide);
 }
 
-// The ring of X is shown on this side only, and stays.
+// Only this side shows the ring of X, and the ring stays visible.
 void Form9::AproximarPontoEsquerda() {
   for (const int ring : {4, 8, 15}) {
     Image1(ring).Visible = true;
@@ -48,39 +48,39 @@ void Form9::AproximarPontoEsquerda() {
   AproximarPonto(LeftSide);
 }
 
-// The semi-secant through X turns about A while X slides towards A, with the legs of its slope. In
-// its limit position it is drawn once more than it is taken away, and stays.
+// The semi-secant through X turns about A while X moves towards A; `drawLegs` draws the legs of its
+// slope. The last line draws it once more in its limit position, where it stays.
 template <class DrawLegs>
-void Form9::RodarSemiSecante(const Side& side, DrawLegs drawLegs) {
+void Form9::TurnSemiSecant(const Side& side, DrawLegs drawLegs) {
   base::CountedLoop(side.Start, PointA, side.Step, [&](double x) {
     const double y = FuncaoF(x);
-    CalcularExtremo(x, y, SemiSecantLength);
-    MoverPonto(side, x, y);
-    PassarFigura([&] {
+    ComputeEnd(x, y, SemiSecantLength);
+    MovePoint(side, x, y);
+    ShowFigureInPassing([&] {
       Picture1.DrawStyle = forms::Dotted;
       Picture1.Line(x, y, x, 0);
       drawLegs(x, y);
       Picture1.DrawStyle = forms::Solid;
-      DesenharSemiSecante();
+      DrawSemiSecant();
     });
   });
-  DesenharSemiSecante();
+  DrawSemiSecant();
 }
 
-// The pixels of the semi-secant of page 6 are inverted here, with the mode of the pen that page 7
-// has left: they turn yellow.
+// The first semi-secant is drawn in the mode that page 7 left, which inverts pixels: the blue
+// semi-secant of page 6 turns yellow.
 void Form9::AproximarSemiSecanteDireita() {
-  Rotular({.a = {3.9, -0.1},
-           .x = Outside,
-           .fa = {-0.8, 6.1},
-           .fx = Outside,
-           .A = {3.9, 6.5},
-           .X = Outside});
-  PrepararSemiSecante(RightSide);
+  PrintLabels({.a = {3.9, -0.1},
+               .x = Outside,
+               .fa = {-0.8, 6.1},
+               .fx = Outside,
+               .A = {3.9, 6.5},
+               .X = Outside});
+  SetSemiSecant(RightSide);
   Picture1.DrawStyle = forms::Solid;
-  DesenharSemiSecante(forms::White);
+  DrawSemiSecant(forms::White);
   Image1(RightSide.Rings.OnGraph).Visible = false;
-  RodarSemiSecante(RightSide, [this](double x, double y) {
+  TurnSemiSecant(RightSide, [this](double x, double y) {
     Picture1.Line(0, y, x, y);
     Picture1.Line(AbcissaA, OrdenadaA, x, OrdenadaA);
   });
@@ -89,22 +89,27 @@ void Form9::AproximarSemiSecanteDireita() {
   }
 }
 
-// The semi-secant of page 11 is erased. The level of X is drawn as far as a, beyond X.
+// The first semi-secant erases that of page 11. The horizontal through X is drawn as far as a.
 void Form9::AproximarSemiSecanteEsquerda() {
-  CalcularExtremo(LeftSide.Start, FuncaoF(LeftSide.Start), SemiSecantLength);
+  ComputeEnd(LeftSide.Start, FuncaoF(LeftSide.Start), SemiSecantLength);
   Picture1.DrawMode = forms::CopyPen;
   Picture1.DrawStyle = forms::Solid;
-  DesenharSemiSecante(forms::White);
-  RodarSemiSecante(LeftSide, [this](double, double y) { Picture1.Line(0, y, AbcissaA, y); });
+  DrawSemiSecant(forms::White);
+  TurnSemiSecant(LeftSide, [this](double, double y) { Picture1.Line(0, y, AbcissaA, y); });
 }
 
-// The two semi-secants of a = 0 go to their limits, first the right one and then the left one;
-// each leaves its semi-tangent in red.
+// One semi-secant goes to its limit from one side, and leaves its semi-tangent in red.
+void Form9::TurnToLimit(const HalfMotion& half, double start, double step) {
+  base::CountedLoop(start, 0, step, [&](double x) {
+    ComputeEnd(x, half.Function(x), half.Length);
+    ShowFigureInPassing([this] { DrawSemiSecant(forms::Blue); });
+  });
+  Picture1.DrawMode = forms::CopyPen;
+  DrawSemiSecant(forms::Red);
+}
+
+// The semi-secants of a = 0: first the right one turns, then the left one.
 void Form9::MovimentoSemiSecantes() {
-  struct HalfMotion {
-    double (*Function)(double);
-    double Length;  // of the semi-secant
-  };
   struct Member {
     int Page;
     double ValueAtA;
@@ -124,18 +129,10 @@ void Form9::MovimentoSemiSecantes() {
   constexpr double StartDistance = 4;
 
   const Member& member = RowOfPage(Members, PaginaActiva);
-  const auto turn = [&](const HalfMotion& half, double start, double step) {
-    base::CountedLoop(start, 0, step, [&](double x) {
-      CalcularExtremo(x, half.Function(x), half.Length);
-      PassarFigura([this] { DesenharSemiSecante(forms::Blue); });
-    });
-    Picture1.DrawMode = forms::CopyPen;
-    DesenharSemiSecante(forms::Red);
-  };
   AbcissaA = 0;
   OrdenadaA = member.ValueAtA;
-  turn(member.Right, StartDistance, -member.Step);
-  turn(member.Left, -StartDistance, member.Step);
+  TurnToLimit(member.Right, StartDistance, -member.Step);
+  TurnToLimit(member.Left, -StartDistance, member.Step);
 }
 
 }  // namespace clinorama

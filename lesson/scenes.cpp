@@ -13,22 +13,19 @@ using namespace lesson;  // NOLINT(google-build-using-namespace): names of this 
 
 namespace {
 
-constexpr double CurveStep = 0.001;  // close enough for the points of a curve to touch
-constexpr double BranchLimit = 8;    // curves between the axes of the margin end here, both ways
-
-constexpr Point LabelOfA = {0, -9.4};  // below the axis of the margin
+constexpr double CurveStep = 0.001;  // small enough for the points of a flat curve to touch
+constexpr double OrdinateLimit = 8;  // bounded curves are drawn from -8 to 8
 
 }  // namespace
 
-// The points of a curve, each in a colour. Curves are runs of points and never lines: where the
-// graph is steep its points stand apart.
+// A curve is drawn as single points and never as lines: where it is steep the points do not touch.
 template <class Function>
-void Form9::DesenharCurva(double from, double to, Function f, forms::Color color) {
-  DesenharCurva(from, to, f, color, [](double) { return true; });
+void Form9::DrawCurve(double from, double to, Function f, forms::Color color) {
+  DrawCurve(from, to, f, color, [](double) { return true; });
 }
 
 template <class Function, class Accepts>
-void Form9::DesenharCurva(double from, double to, Function f, forms::Color color, Accepts accepts) {
+void Form9::DrawCurve(double from, double to, Function f, forms::Color color, Accepts accepts) {
   base::CountedLoop(from, to, CurveStep, [&](double x) {
     const double y = f(x);
     if (accepts(y)) {
@@ -37,86 +34,88 @@ void Form9::DesenharCurva(double from, double to, Function f, forms::Color color
   });
 }
 
-// A curve in blue as far as it lies between the axes of the margin.
+// The part of a curve with ordinates from -8 to 8, in blue.
 template <class Function>
-void Form9::DesenharRamo(double from, double to, Function f) {
-  DesenharCurva(from, to, f, forms::Blue,
-                [](double y) { return y >= -BranchLimit && y <= BranchLimit; });
+void Form9::DrawBoundedCurve(double from, double to, Function f) {
+  DrawCurve(from, to, f, forms::Blue,
+            [](double y) { return y >= -OrdinateLimit && y <= OrdinateLimit; });
 }
 
-// A circle with a tangent. The marker's corner is that of the other scale, so that it lies a
+// A circle with a tangent. The marker is placed with the distance of the other scale, so it lies a
 // little beside the point of contact.
 void Form9::CenaCircunferencia() {
   Picture1.Cls();
-  OcultarMarcadores();
+  HideMarkers();
   Picture1.ForeColor = forms::Blue;
   Picture1.Circle(0, 0, 4);
   const double root = std::sqrt(2);
-  DesenharCurva(
+  DrawCurve(
       -2, 8, [root](double x) { return 4 * root - x; }, Picture1.ForeColor);
-  Colocar(5, 2 * root, 2 * root, QuadrantCorner);
+  PlaceMarker(5, 2 * root, 2 * root, QuadrantCorner);
 }
 
 // A vertical line that meets a parabola once and is no tangent.
 void Form9::CenaParabola() {
   Picture1.Cls();
-  OcultarMarcadores();
+  HideMarkers();
   Picture1.ForeColor = forms::Blue;
-  DesenharCurva(-10, 10, Parabola, Picture1.ForeColor, [](double y) { return y > -9 && y < 9; });
+  DrawCurve(-10, 10, Parabola, Picture1.ForeColor, [](double y) { return y > -9 && y < 9; });
   Picture1.Line(4, 9, 4, -9);
-  Colocar(5, 4, Parabola(4), MarginCorner);
+  PlaceMarker(5, 4, Parabola(4), MarginCorner);
 }
 
-// A tangent that crosses its curve. Going back from page 5 leads here from another scale.
+// A tangent that crosses its curve. The scale is set because page 5, which has another one, leads
+// back to this page.
 void Form9::CenaTangenteDivide() {
   Picture1.Cls();
   Picture1.Scale(-10, 10, 10, -10);
-  OcultarMarcadores();
+  HideMarkers();
   Picture1.DrawMode = forms::CopyPen;
-  DesenharRamo(-8, 8, Cubic);
-  Colocar(5, 0, 0, MarginCorner);
+  DrawBoundedCurve(-8, 8, Cubic);
+  PlaceMarker(5, 0, 0, MarginCorner);
   Picture1.PrintAt(-0.4, -0.4, "P");
-  DesenharCurva(
+  DrawCurve(
       -5, 5, [](double x) { return -2 * x / 3; }, Picture1.ForeColor);
 }
 
-// The graph with the points of abscissas a and x. The pen stays blue up to page 15.
+// The graph with the points of abscissas a and x. ForeColor stays blue up to page 15.
 void Form9::CenaPontosDireita() {
-  OcultarMarcadores();
+  HideMarkers();
   EixosQuadrante();
   Picture1.ForeColor = forms::Blue;
   Picture1.DrawMode = forms::CopyPen;
-  DesenharCurva(1, 8, FuncaoF, Picture1.ForeColor);
-  Rotular({.a = {3.9, -0.1},
-           .x = {6.9, -0.1},
-           .fa = {-0.8, 6.1},
-           .fx = {-0.8, 7.1},
-           .A = {3.9, 6.5},
-           .X = {6.9, 7.5}});
+  DrawCurve(1, 8, FuncaoF, Picture1.ForeColor);
+  PrintLabels({.a = {3.9, -0.1},
+               .x = {6.9, -0.1},
+               .fa = {-0.8, 6.1},
+               .fx = {-0.8, 7.1},
+               .A = {3.9, 6.5},
+               .X = {6.9, 7.5}});
   MarcarPontoA();
   MarcarPontoDireita();
 }
 
-// The semi-secant with the two legs of its slope. A and a lose their markers here.
+// The semi-secant with the two legs of its slope. The markers of A and a are hidden.
 void Form9::CenaSemiSecanteDireita() {
-  OcultarMarcadores();
+  HideMarkers();
   for (const int marker : {5, 1, 12}) {
     Image1(marker).Visible = true;
   }
-  PrepararSemiSecante(RightSide);
+  SetSemiSecant(RightSide);
   Picture1.DrawStyle = forms::Solid;
-  DesenharSemiSecante();
+  DrawSemiSecant();
   Picture1.DrawStyle = forms::Dotted;
   Picture1.Line(AbcissaA, OrdenadaA, AbcissaX, OrdenadaA, forms::Blue);
   Picture1.Line(AbcissaX, OrdenadaX, AbcissaX, OrdenadaA, forms::Red);
 }
 
-// The semi-tangent of either side: it lies where the motion before has left the semi-secant.
+// The semi-tangent of either side. It lies where the motion of the page before left the
+// semi-secant.
 void Form9::SemiTangente() {
   Picture1.DrawMode = forms::CopyPen;
   Picture1.DrawStyle = forms::Solid;
   Picture1.DrawWidth = 2;
-  DesenharSemiSecante(forms::Red);
+  DrawSemiSecant(forms::Red);
   Picture1.DrawWidth = 1;
 }
 
@@ -125,22 +124,20 @@ void Form9::CenaPontosEsquerda() {
   const double y = FuncaoF(x);
   MarcarPontoA();
   ExemploUm();
-  Picture1.DrawStyle = forms::Dotted;
-  Picture1.Line(x, y, x, 0);
-  Picture1.Line(0, y, x, y);
-  Rotular({.a = {3.9, -0.1},
-           .x = {1.4, -0.1},
-           .fa = {-0.8, 6.1},
-           .fx = {-0.8, 3.8},
-           .A = {3.9, 6.5},
-           .X = {1.3, 4.2}});
+  DrawCoordinates(x, y);
+  PrintLabels({.a = {3.9, -0.1},
+               .x = {1.4, -0.1},
+               .fa = {-0.8, 6.1},
+               .fx = {-0.8, 3.8},
+               .A = {3.9, 6.5},
+               .X = {1.3, 4.2}});
 }
 
-// The legs meet below A here, and below X on the right side.
+// The legs meet below A; on the right side they meet below X.
 void Form9::CenaSemiSecanteEsquerda() {
-  PrepararSemiSecante(LeftSide);
+  SetSemiSecant(LeftSide);
   Picture1.DrawStyle = forms::Solid;
-  DesenharSemiSecante();
+  DrawSemiSecant();
   Picture1.DrawStyle = forms::Dotted;
   Picture1.Line(AbcissaA, OrdenadaA, AbcissaA, OrdenadaX, forms::Blue);
   Picture1.Line(AbcissaX, OrdenadaX, AbcissaA, OrdenadaX, forms::Red);
@@ -148,14 +145,14 @@ void Form9::CenaSemiSecanteEsquerda() {
 
 void Form9::CenaCubica() {
   EixosMargem();
-  DesenharRamo(-8, 8, Cubic);
-  Colocar(10, 0, 0, MarginCorner);
+  DrawBoundedCurve(-8, 8, Cubic);
+  PlaceMarker(10, 0, 0, MarginCorner);
   Picture1.PrintAt(LabelOfA.X, LabelOfA.Y, "a");
-  MarcarVertical(0);
+  DrawVertical(0);
 }
 
-// Two branches that do not meet at a. The pages differ in where (a, f(a)) lies, and so in which
-// ends of the branches are open.
+// Two branches that do not meet at a. The pages differ in the place of (a, f(a)), and so in the
+// branches whose end is open.
 void Form9::CenaDoisTrocos() {
   struct Marker {
     int Index;
@@ -174,36 +171,33 @@ void Form9::CenaDoisTrocos() {
   };
   EixosMargem();
   for (const auto& [index, y] : RowOfPage(Members, PaginaActiva).Markers) {
-    Colocar(index, 0, y, MarginCorner);
+    PlaceMarker(index, 0, y, MarginCorner);
   }
-  DesenharRamo(-8, 0, LeftBranch);
-  DesenharRamo(0, 8, RightBranch);
-  MarcarVertical(9);
-  Picture1.PrintAt(LabelOfA.X, LabelOfA.Y, "a");
+  DrawBoundedCurve(-8, 0, LeftBranch);
+  DrawBoundedCurve(0, 8, RightBranch);
+  DrawExampleAbscissa();
 }
 
-// A cusp, with the curve closed by dots where it is steepest. The green disc lies over the blue
+// A cusp; some dots close the gap where the curve is steepest. The green disc lies over the blue
 // one, a little to the left.
 void Form9::CenaReversao() {
   constexpr double GreenCornerLeft = 0.29;
   EixosMargem();
-  Colocar(16, 0, Cusp(0), MarginCorner);
-  DesenharCurva(-8, 8, Cusp, forms::Blue);
+  PlaceMarker(16, 0, Cusp(0), MarginCorner);
+  DrawCurve(-8, 8, Cusp, forms::Blue);
   Image1(10).Move(-GreenCornerLeft, Cusp(0) + MarginCorner);
   Image1(10).Visible = true;
   base::CountedLoop(-3, -4, -0.1, [this](double y) { Picture1.PSet(0, y, forms::Blue); });
-  MarcarVertical(9);
-  Picture1.PrintAt(LabelOfA.X, LabelOfA.Y, "a");
+  DrawExampleAbscissa();
 }
 
-// A corner; its semi-tangents lie on the curve itself.
+// A corner. Its semi-tangents, in red, lie on the curve itself.
 void Form9::CenaAnguloso() {
   EixosMargem();
-  Colocar(16, 0, Corner(0), MarginCorner);
-  DesenharCurva(-8, 8, Corner, forms::Blue);
-  DesenharCurva(-5, 5, Corner, forms::Red);
-  MarcarVertical(9);
-  Picture1.PrintAt(LabelOfA.X, LabelOfA.Y, "a");
+  PlaceMarker(16, 0, Corner(0), MarginCorner);
+  DrawCurve(-8, 8, Corner, forms::Blue);
+  DrawCurve(-5, 5, Corner, forms::Red);
+  DrawExampleAbscissa();
 }
 
 }  // namespace clinorama

@@ -1,5 +1,5 @@
-// The lesson as a sequence: what each page shows and which buttons it enables, the ways forwards
-// and backwards, pauses, and the menu.
+// The order of the lesson: what each page shows and which buttons it enables, how the user goes
+// forwards and backwards, pauses, and the menu.
 
 #include <string>
 
@@ -11,64 +11,65 @@
 
 namespace clinorama {
 
-// Which buttons are enabled during a page's action, and whether Still takes its place afterwards.
-struct Form9::Botões {
+// Which buttons a page enables before its action, and whether it sets those of Still after it.
+struct Form9::ButtonSet {
   bool Anterior;
   bool Seguinte;
   bool Parar;
   bool Continuar;
   bool StillAfterwards;
 
-  static const Botões First;
-  static const Botões Still;
-  static const Botões Moving;
-  static const Botões All;
+  static const ButtonSet First;
+  static const ButtonSet Still;
+  static const ButtonSet Moving;
+  static const ButtonSet All;
 };
-constexpr Form9::Botões Form9::Botões::First = {false, true, false, false, false};
-constexpr Form9::Botões Form9::Botões::Still = {true, true, false, false, false};
-constexpr Form9::Botões Form9::Botões::Moving = {false, false, true, true, true};
-constexpr Form9::Botões Form9::Botões::All = {true, true, true, true, false};
+constexpr Form9::ButtonSet Form9::ButtonSet::First = {false, true, false, false, false};
+constexpr Form9::ButtonSet Form9::ButtonSet::Still = {true, true, false, false, false};
+constexpr Form9::ButtonSet Form9::ButtonSet::Moving = {false, false, true, true, true};
+constexpr Form9::ButtonSet Form9::ButtonSet::All = {true, true, true, true, false};
 
-// What happens on a page. Its text is the picture of the same number.
-struct Form9::Página {
-  const Botões& Buttons;
+// What a page does. Its text is the picture of Image4 with the page's number.
+struct Form9::LessonPage {
+  const ButtonSet& Buttons;
   void (Form9::*Action)() = nullptr;      // a scene or a motion
-  const char* LabelAfterwards = nullptr;  // in the place of the number of the page
+  const char* LabelAfterwards = nullptr;  // replaces the page number in Label3 after the action
 };
 
-// The pages from 1 on; page 0 is what loading shows. Page 22 locks its buttons though nothing moves
-// there, and page 23 leaves them free, so that other pages can be called into its motion.
-const Form9::Página Form9::Páginas[LastPage] = {
-    {Botões::First, &Form9::MostrarDefinição},
-    {Botões::Still, &Form9::CenaCircunferencia},
-    {Botões::Still, &Form9::CenaParabola},
-    {Botões::Still, &Form9::CenaTangenteDivide},
-    {Botões::Still, &Form9::CenaPontosDireita},
-    {Botões::Still, &Form9::CenaSemiSecanteDireita},
-    {Botões::Moving, &Form9::AproximarPontoDireita},
-    {Botões::Moving, &Form9::AproximarSemiSecanteDireita},
-    {Botões::Still, &Form9::SemiTangente},
-    {Botões::Still, &Form9::CenaPontosEsquerda},  // 10
-    {Botões::Still, &Form9::CenaSemiSecanteEsquerda},
-    {Botões::Moving, &Form9::AproximarPontoEsquerda},
-    {Botões::Moving, &Form9::AproximarSemiSecanteEsquerda},
-    {Botões::Still, &Form9::SemiTangente},
-    {Botões::Still},
-    {Botões::Still, &Form9::CenaCubica},
-    {Botões::Moving, &Form9::MovimentoSemiSecantes},
-    {Botões::Still, &Form9::CenaDoisTrocos},
-    {Botões::Moving, &Form9::MovimentoSemiSecantes},
-    {Botões::Still, &Form9::CenaDoisTrocos},  // 20
-    {Botões::Moving, &Form9::MovimentoSemiSecantes},
-    {Botões::Moving, &Form9::CenaDoisTrocos},
-    {Botões::All, &Form9::MovimentoSemiSecantes},
-    {Botões::Still, &Form9::CenaDoisTrocos},
-    {Botões::Moving, &Form9::MovimentoSemiSecantes},
-    {Botões::Still, &Form9::CenaDoisTrocos},
-    {Botões::Moving, &Form9::MovimentoSemiSecantes},
-    {Botões::Still, &Form9::CenaReversao},
-    {Botões::Moving, &Form9::MovimentoSemiSecantes},
-    {Botões::Moving, &Form9::CenaAnguloso, "Final"},  // 30
+// The pages from 1 on; Form_Load shows page 0. Page 22 disables its buttons though it has no
+// motion. Page 23 enables all buttons during its motion, so the user can open other pages inside
+// it.
+const Form9::LessonPage Form9::LessonPages[LastPage] = {
+    {ButtonSet::First, &Form9::ShowDefinition},
+    {ButtonSet::Still, &Form9::CenaCircunferencia},
+    {ButtonSet::Still, &Form9::CenaParabola},
+    {ButtonSet::Still, &Form9::CenaTangenteDivide},
+    {ButtonSet::Still, &Form9::CenaPontosDireita},
+    {ButtonSet::Still, &Form9::CenaSemiSecanteDireita},
+    {ButtonSet::Moving, &Form9::AproximarPontoDireita},
+    {ButtonSet::Moving, &Form9::AproximarSemiSecanteDireita},
+    {ButtonSet::Still, &Form9::SemiTangente},
+    {ButtonSet::Still, &Form9::CenaPontosEsquerda},  // 10
+    {ButtonSet::Still, &Form9::CenaSemiSecanteEsquerda},
+    {ButtonSet::Moving, &Form9::AproximarPontoEsquerda},
+    {ButtonSet::Moving, &Form9::AproximarSemiSecanteEsquerda},
+    {ButtonSet::Still, &Form9::SemiTangente},
+    {ButtonSet::Still},
+    {ButtonSet::Still, &Form9::CenaCubica},
+    {ButtonSet::Moving, &Form9::MovimentoSemiSecantes},
+    {ButtonSet::Still, &Form9::CenaDoisTrocos},
+    {ButtonSet::Moving, &Form9::MovimentoSemiSecantes},
+    {ButtonSet::Still, &Form9::CenaDoisTrocos},  // 20
+    {ButtonSet::Moving, &Form9::MovimentoSemiSecantes},
+    {ButtonSet::Moving, &Form9::CenaDoisTrocos},
+    {ButtonSet::All, &Form9::MovimentoSemiSecantes},
+    {ButtonSet::Still, &Form9::CenaDoisTrocos},
+    {ButtonSet::Moving, &Form9::MovimentoSemiSecantes},
+    {ButtonSet::Still, &Form9::CenaDoisTrocos},
+    {ButtonSet::Moving, &Form9::MovimentoSemiSecantes},
+    {ButtonSet::Still, &Form9::CenaReversao},
+    {ButtonSet::Moving, &Form9::MovimentoSemiSecantes},
+    {ButtonSet::Moving, &Form9::CenaAnguloso, "Final"},  // 30
 };
 
 Form9::Form9() : Page("Form9", {0, 690, 15345, 10605}, "CLINORAMA") {
@@ -93,7 +94,7 @@ Form9::Form9() : Page("Form9", {0, 690, 15345, 10605}, "CLINORAMA") {
   Clinorama.Click = [this] { Clinorama_Click(); };
 }
 
-std::unique_ptr<forms::Image> Form9::NovoTexto(int index, const std::string& name) {
+std::unique_ptr<forms::Image> Form9::NewText(int index, const std::string& name) {
   constexpr forms::Rect Place = {9600, 60, 5589, 9317};
   const std::string picture = index > LastPage ? "" : "lesson/pagina_" + base::TwoDigits(index);
   return std::make_unique<forms::Image>(*this, name, Place, picture,
@@ -101,7 +102,7 @@ std::unique_ptr<forms::Image> Form9::NovoTexto(int index, const std::string& nam
 }
 
 void Form9::Form_Load() {
-  OcultarMarcadores();
+  HideMarkers();
   for (int i = Image4.First(); i <= Image4.Last(); ++i) {
     Image4(i).Visible = false;
   }
@@ -109,14 +110,14 @@ void Form9::Form_Load() {
   Picture1.AutoRedraw = true;
   PaginaActiva = 0;
   PodeContinuar = false;
-  PermitirBotões(Botões::First);
+  EnableButtons(ButtonSet::First);
   Label3.Caption = "0";
   Picture1.Scale(-10, 10, 10, -10);
 }
 
-// The label is written before the number is limited: during a replay of the last page it reads one
-// more. Each page is compared afresh, so that when an action comes back and has had a later page
-// called into it, that page is shown once more from here.
+// The label is written before the number is limited, so it reads 31 while page 30 is replayed. Each
+// comparison reads PaginaActiva again: if the user opened a later page inside an action, this loop
+// shows that page once more.
 void Form9::Seguinte_Click() {
   for (int i = Image4.First(); i <= Image4.Last(); ++i) {
     Image4(i).Visible = false;
@@ -129,36 +130,37 @@ void Form9::Seguinte_Click() {
   }
   for (int number = 1; number <= LastPage; ++number) {
     if (PaginaActiva == number) {
-      MostrarPágina(number);
+      ShowPage(number);
     }
   }
 }
 
-void Form9::MostrarPágina(int number) {
-  const Página& page = Páginas[number - 1];
-  PermitirBotões(page.Buttons);
+void Form9::ShowPage(int number) {
+  const LessonPage& page = LessonPages[number - 1];
+  EnableButtons(page.Buttons);
   Image4(number).Visible = true;
   if (page.Action != nullptr) {
     (this->*page.Action)();
   }
   if (page.Buttons.StillAfterwards) {
-    PermitirBotões(Botões::Still);
+    EnableButtons(ButtonSet::Still);
   }
   if (page.LabelAfterwards != nullptr) {
     Label3.Caption = page.LabelAfterwards;
   }
 }
 
-void Form9::PermitirBotões(const Botões& buttons) {
+void Form9::EnableButtons(const ButtonSet& buttons) {
   Anterior.Enabled = buttons.Anterior;
   Seguinte.Enabled = buttons.Seguinte;
   Parar.Enabled = buttons.Parar;
   Continuar.Enabled = buttons.Continuar;
 }
 
-// Leads back to the start of a drawing. The pages from FirstOfSequence to FirstExample build on
-// one drawing and cannot be entered in the middle; behind them each even page sets up a drawing,
-// and it or its motion leads to the drawing before. Showing the next page adds one again.
+// Goes back to a page that starts a drawing. The pages from FirstOfSequence up to FirstExample
+// build on one drawing, so the user goes back to its first page. From FirstExample on each even
+// page starts a drawing: going back from it skips the motion before it. Seguinte_Click adds 1
+// again.
 void Form9::Anterior_Click() {
   constexpr int FirstOfSequence = 5;
   constexpr int FirstExample = 16;
@@ -172,8 +174,8 @@ void Form9::Anterior_Click() {
   Seguinte_Click();
 }
 
-// A pause holds the motion because this handler runs nested in the motion's wait and does not
-// return.
+// This handler runs inside the wait of the motion's step. The motion stands still because the
+// handler does not return until Continuar is clicked.
 void Form9::Parar_Click() {
   if (!CanPause()) {
     return;
@@ -197,9 +199,9 @@ void Form9::Clinorama_Click() {
   forms::The<Form12>().Show();
 }
 
-// The drawing under the definition stays: it is empty, or that of the page after.
-void Form9::MostrarDefinição() {
-  OcultarMarcadores();
+// The drawing under the definition is not cleared: it is empty, or that of page 2.
+void Form9::ShowDefinition() {
+  HideMarkers();
   Image5.Visible = true;
 }
 

@@ -12,9 +12,9 @@ namespace clinorama {
 // The relations page: the user compares a function with its first and second derivatives in three
 // drawing windows, where the same colour means the same fact.
 //
-// What the twelve drawing buttons do is one table, in operations.cpp; drawing.cpp carries out a row
-// of it, with the values that sampling.cpp walks through. graduation.cpp draws the axes, and
-// page_control.cpp binds the page together.
+// operations.cpp holds the table of the twelve drawing buttons; drawing.cpp carries out a row of
+// that table, and sampling.cpp computes the values that it plots. graduation.cpp draws the axes;
+// page_control.cpp binds the other events.
 class Form13 : public forms::Page {
  public:
   Form13();
@@ -140,11 +140,11 @@ class Form13 : public forms::Page {
       Frame5,  "CorFundoSegunda", {900, 4200, 615, 615},
       "Fundo", "icons/fundo",     "Mudar a cor do fundo do gráfico da segunda derivada da função."};
 
-  // It leaves this page only, whatever its tool tip says.
+  // It leaves this page only, and not the program as its tool tip says.
   forms::CommandButton Sair{*this,   "Sair",       {7320, 180, 735, 735},
                             "Sair ", "icons/sair", "Sair do programa."};
 
-  // The stores of the colours: of the curve and of the ground, for each window in turn.
+  // For each window in turn the chooser of the curve's colour and that of the background.
   forms::CommonDialog CommonDialog1;
   forms::CommonDialog CommonDialog2;
   forms::CommonDialog CommonDialog3;
@@ -156,8 +156,8 @@ class Form13 : public forms::Page {
   bool RadianosFunção = false;
   bool RadianosPrimeira = false;
   bool RadianosSegunda = false;
-  // Which colouring has come to its end: 1 or 2 on the function, 1 on the second derivative; 0
-  // after a clearing. They are a record only, for guide lines between the windows.
+  // The last colouring that reached its end: 1 or 2 on the function, 1 on the second derivative; 0
+  // after a clearing. Nothing reads these fields.
   int ModoCoresFunção = 0;
   int ModoCoresSegunda = 0;
 
@@ -173,28 +173,28 @@ class Form13 : public forms::Page {
     forms::CommandButton& EixosRad;
     bool& Radianos;
     forms::CommonDialog& CurveColor;
-    forms::CommonDialog& GroundColor;
-    bool UnitsSetButton;  // graduating in units sets the button and the field, too
+    forms::CommonDialog& BackgroundColor;
+    bool UnitsSetButton;  // a graduation in units also sets the button and the field
   };
   struct Operation;  // what a drawing button does, see operations.h
 
-  Window JanelaFunção{1,
-                      {60, 1800, 8000, 8000},
-                      "Gráfico da função",
-                      EixosRad,
-                      RadianosFunção,
-                      CommonDialog1,
-                      CommonDialog2,
-                      true};
-  Window JanelaPrimeira{3,
-                        {8280, 600, 5000, 5000},
-                        "Gráfico da primeira derivada",
-                        EixosRad1,
-                        RadianosPrimeira,
-                        CommonDialog3,
-                        CommonDialog4,
-                        false};
-  Window JanelaSegunda{5,
+  Window functionWindow_{1,
+                         {60, 1800, 8000, 8000},
+                         "Gráfico da função",
+                         EixosRad,
+                         RadianosFunção,
+                         CommonDialog1,
+                         CommonDialog2,
+                         true};
+  Window firstWindow_{3,
+                      {8280, 600, 5000, 5000},
+                      "Gráfico da primeira derivada",
+                      EixosRad1,
+                      RadianosPrimeira,
+                      CommonDialog3,
+                      CommonDialog4,
+                      false};
+  Window secondWindow_{5,
                        {8280, 6000, 5000, 5000},
                        "Gráfico da segunda derivada",
                        EixosRad2,
@@ -210,20 +210,22 @@ class Form13 : public forms::Page {
   void GraduarTodas();
   void GraduarUnidades(const Window& window);
   void GraduarRadianos(const Window& window);
-  void Graduar(const Window& window);
-  void AlternarGraduação(const Window& window);
-  void MostrarGraduação(const Window& window, bool radians);
+  void RedrawAxes(const Window& window);
+  void ToggleGraduation(const Window& window);
+  void SetGraduation(const Window& window, bool radians);
 
   // operations.cpp
-  static const std::vector<Operation>& Operations();
+  static const std::vector<Operation> Operations;
 
   // drawing.cpp
-  void Executar(const Operation& operation);
-  bool Recusar(const Operation& operation);
-  void Traçar(const Operation& operation);
+  void Execute(const Operation& operation);
+  bool Prepare(const Operation& operation);
+  bool RefuseEmptyBox(const Operation& operation);
+  void Finish(const Operation& operation);
+  void Plot(const Operation& operation);
 
   // page_control.cpp
-  void MudarFundo(const Window& window);
+  void ChangeBackground(const Window& window);
   void Sair_Click();
 };
 

@@ -1,6 +1,5 @@
-// Carries out a row of the table of operations: its preparations, its points, and its end or its
-// failure. It runs from beginning to end without letting an event in; the user watches the points
-// arrive on the live canvas.
+// Carries out a row of the table of operations: preparations, points, and the end or the failure.
+// No event is let in meanwhile; the user sees the points appear on the live canvas.
 
 #include "base/failure.h"
 #include "forms/application.h"
@@ -10,15 +9,31 @@ namespace clinorama {
 
 using namespace relations;
 
-void Form13::Executar(const Operation& operation) {
+void Form13::Execute(const Operation& operation) {
+  if (!Prepare(operation)) {
+    return;
+  }
+  try {
+    Plot(operation);
+  } catch (const base::Failure& failure) {
+    // The points drawn before the failure stay, and the live canvas stays in view.
+    const FailureReport& report = operation.Procedure.Report;
+    forms::MsgBox("Erro:\n\n" + failure.Description(), report.Style, report.Title);
+    MousePointer = forms::MousePointer::Default;
+    Função1.SetFocus();
+    return;
+  }
+  Finish(operation);
+}
+
+// Runs the preparations in their order. Returns false where the operation ends with them.
+bool Form13::Prepare(const Operation& operation) {
   const Window& window = this->*operation.On;
-  const Manner& manners = operation.Manners;
-  bool showsLive = false;
-  for (const Preparation preparation : manners.Preparations) {
+  for (const Preparation preparation : operation.Procedure.Preparations) {
     switch (preparation) {
       case Preparation::RefuseEmpty:
-        if (Recusar(operation)) {
-          return;
+        if (RefuseEmptyBox(operation)) {
+          return false;
         }
         break;
       case Preparation::ShowHourglass:
@@ -27,22 +42,16 @@ void Form13::Executar(const Operation& operation) {
       case Preparation::ShowLive:
         Persistent(window).Visible = false;
         Live(window).Visible = true;
-        showsLive = true;
         break;
     }
   }
-  try {
-    Traçar(operation);
-  } catch (const base::Failure& failure) {
-    // The points drawn so far stay, with the live canvas in front.
-    forms::MsgBox("Erro:\n\n" + failure.Description(), manners.FailureBox.Style,
-                  manners.FailureBox.Title);
-    MousePointer = forms::MousePointer::Default;
-    Função1.SetFocus();
-    return;
-  }
+  return true;
+}
+
+void Form13::Finish(const Operation& operation) {
+  const Window& window = this->*operation.On;
   MousePointer = forms::MousePointer::Default;
-  if (showsLive) {
+  if (operation.OnBothCanvases) {
     Persistent(window).Visible = true;
     Live(window).Visible = false;
   }
@@ -51,50 +60,51 @@ void Form13::Executar(const Operation& operation) {
   }
 }
 
-bool Form13::Recusar(const Operation& operation) {
+bool Form13::RefuseEmptyBox(const Operation& operation) {
   if (!Função1.Blank()) {
     return false;
   }
-  forms::MsgBox(operation.Manners.EmptyMessage, forms::InformationBox, "Relações");
-  if (operation.Manners.FocusWhenEmpty) {
+  forms::MsgBox(operation.Procedure.EmptyMessage, forms::InformationBox, "Relações");
+  if (operation.Procedure.FocusWhenEmpty) {
     Função1.SetFocus();
   }
   return true;
 }
 
-// Samples the function and plots the points that pass their tests. A failure comes out of here only
-// where it is to be reported.
-void Form13::Traçar(const Operation& operation) {
+// Samples the function and plots the points that pass their tests. It raises a failure only where
+// the operation reports failures.
+void Form13::Plot(const Operation& operation) {
   const Window& window = this->*operation.On;
   forms::PictureBox& persistent = Persistent(window);
   forms::PictureBox& live = Live(window);
-  Sampler f(Função1.Text, operation.Manners.OnFailure);
+  Sampler f(Função1.Text, operation.Procedure.OnFailure);
 
-  const auto plot = [&](forms::PictureBox& canvas, const Sample& sample, const Mark& mark) {
+  const auto plot = [&](forms::PictureBox& canvas, const Sample& sample, const PointRule& rule) {
     f.Recovery.Statement([&] {
-      const double y = (operation.AtSolution ? f.Solution() : sample.Value) + mark.Lift;
+      const double y = (operation.AtSolution ? f.Solution() : sample.Value) + rule.Lift;
       canvas.PSet(sample.X, y,
-                  mark.Color == CurveColor ? window.CurveColor.Color : forms::QBColor(mark.Color));
+                  rule.Color == CurveColor ? window.CurveColor.Color : forms::QBColor(rule.Color));
     });
   };
   persistent.DrawWidth = operation.DotSize;
   live.DrawWidth = operation.DotSize;
   operation.Sampling(f, operation.Over, [&](const Sample& sample) {
-    for (const Mark& mark : operation.Marks) {
+    for (const PointRule& rule : operation.Rules) {
       const bool passed = f.Recovery.Test([&] {
-        // Read whatever the other conditions say, as its failure decides.
+        // Solution is read before the other conditions: if the read fails, the test counts as
+        // passed.
         const bool onZero = operation.NotOnZeros && f.Solution() == 0;
-        return !onZero && operation.Values.Holds(sample.Value) && mark.Test(sample) &&
+        return !onZero && operation.Values.Holds(sample.Value) && rule.Test(sample) &&
                f.Recovery.PontoValido();
       });
       if (!passed) {
         continue;
       }
-      plot(persistent, sample, mark);
+      plot(persistent, sample, rule);
       if (!operation.OnBothCanvases) {
         continue;
       }
-      plot(live, sample, mark);
+      plot(live, sample, rule);
       live.Refresh();
     }
   });

@@ -1,6 +1,5 @@
-// The axes of the drawing windows, with their graduation in units or in radians. All lengths are in
-// user units: the windows are small, so axes and numbers keep within -9 and 9 of the -10 to 10
-// that a canvas shows.
+// The axes of the drawing windows, graduated in units or in radians. All lengths are in user units;
+// a canvas shows -10 to 10 on both axes.
 
 #include <string>
 
@@ -15,7 +14,7 @@ using forms::PictureBox;
 
 namespace {
 
-constexpr double Pi = 3.14159;  // the digits that the graduation works with
+constexpr double Pi = 3.14159;  // no more digits, so the places of marks and labels are exact
 constexpr int LastNumber = 8;
 constexpr double TickHalf = 0.1;
 
@@ -37,10 +36,10 @@ constexpr RadianLabel RadianLabels[] = {
     {"5p/2", 5 * Pi / 2 - 0.6},
 };
 
-template <class Mark>
-void ForEachNumber(Mark mark) {
+template <class Body>
+void ForEachNumber(Body body) {
   for (int j = -LastNumber; j <= LastNumber; ++j) {
-    mark(j);
+    body(j);
   }
 }
 
@@ -49,8 +48,8 @@ void SetNumberFont(PictureBox& canvas) {
   canvas.Font.Size = 6;
 }
 
-// Wipes the canvas and draws the axes with their arrow heads; the tip of the horizontal one stands
-// a little beyond the end of its axis.
+// Wipes the canvas and draws the axes with their arrow heads. The tip of the horizontal arrow
+// stands at 9.1, though its axis ends at 9.
 void DrawAxes(PictureBox& canvas) {
   canvas.DrawStyle = forms::Solid;
   canvas.DrawMode = forms::CopyPen;
@@ -73,7 +72,7 @@ void NumberOrdinate(PictureBox& canvas, int j) {
   }
 }
 
-// The letters take the size of the numbers before them.
+// The letters keep the font size of the numbers.
 void NameAxes(PictureBox& canvas) {
   canvas.Font.Name = "MS Sans Serif";
   canvas.Font.Bold = true;
@@ -98,10 +97,10 @@ void DrawUnits(PictureBox& canvas) {
   NameAxes(canvas);
 }
 
-// The numbers of the y axis keep whatever boldness the graduation before left.
+// The boldness is not set: the numbers of the y axis have that of the graduation before.
 void DrawRadians(PictureBox& canvas) {
   DrawAxes(canvas);
-  // The counter passes 3π by rounding, so the last mark is that of 5π/2.
+  // By rounding the counter is above 3π in the last pass, so the last mark is that of 5π/2.
   base::CountedLoop(-5 * Pi / 2, 3 * Pi, Pi / 2, [&](double t) { MarkAbscissa(canvas, t); });
   ForEachNumber([&](int j) { MarkOrdinate(canvas, j); });
   SetNumberFont(canvas);
@@ -131,17 +130,17 @@ void Form13::GraduarUnidades(const Window& window) {
   DrawUnits(Persistent(window));
   DrawUnits(Live(window));
   if (window.UnitsSetButton) {
-    MostrarGraduação(window, false);
+    SetGraduation(window, false);
   }
 }
 
 void Form13::GraduarRadianos(const Window& window) {
   DrawRadians(Persistent(window));
   DrawRadians(Live(window));
-  MostrarGraduação(window, true);
+  SetGraduation(window, true);
 }
 
-void Form13::Graduar(const Window& window) {
+void Form13::RedrawAxes(const Window& window) {
   if (window.Radianos) {
     GraduarRadianos(window);
   } else {
@@ -149,17 +148,17 @@ void Form13::Graduar(const Window& window) {
   }
 }
 
-// The button names the graduation that a click will bring, not the present one.
-void Form13::MostrarGraduação(const Window& window, bool radians) {
+// Sets the field and the button. The button names the graduation that a click brings.
+void Form13::SetGraduation(const Window& window, bool radians) {
   window.EixosRad.ToolTipText = radians ? "Graduar o eixo das abcissas em unidades"
                                         : "Graduar o eixo das abcissas em radianos";
   window.EixosRad.Caption = radians ? "Unidades" : "Radianos";
   window.Radianos = radians;
 }
 
-void Form13::AlternarGraduação(const Window& window) {
-  MostrarGraduação(window, !window.Radianos);
-  Graduar(window);
+void Form13::ToggleGraduation(const Window& window) {
+  SetGraduation(window, !window.Radianos);
+  RedrawAxes(window);
 }
 
 }  // namespace clinorama

@@ -14,40 +14,41 @@ namespace clinorama::relations {
 enum class Preparation {
   RefuseEmpty,    // an empty box ends the operation with a message
   ShowHourglass,  // until the end of the operation
-  ShowLive,       // brings the live canvas to the front, and the persistent one back at the end
+  ShowLive,       // shows the live canvas and hides the persistent one, until the end
 };
 
-// A message box for failures, where they are reported.
-struct Report {
+// The message box of a failure that is reported.
+struct FailureReport {
   int Style;
   const char* Title;
 };
 
-// The manners that several operations share.
-struct Manner {
+// How an operation begins, and what it does about an empty box and about failures. Several
+// operations share a procedure.
+struct Procedure {
   std::vector<Preparation> Preparations;
   const char* EmptyMessage;
   bool FocusWhenEmpty = false;  // the box gets the focus after the message
   Convention OnFailure;
-  Report FailureBox{};  // for ReportAndStop
+  FailureReport Report{};  // for ReportAndStop
 };
 
-// An open interval.
-struct Interval {
+// An interval without its ends.
+struct OpenInterval {
   double Above = -std::numeric_limits<double>::infinity();
   double Below = std::numeric_limits<double>::infinity();
 
   bool Holds(double value) const { return value > Above && value < Below; }
 };
 
-// The colour of the curve's chooser, in the place of a number of the palette.
+// Stands for the colour of the curve's chooser where a number of the palette is expected.
 constexpr int CurveColor = -1;
 
-// A point that is plotted where a sample passes a test.
-struct Mark {
+// Where a sample passes the test, a point is plotted in the colour.
+struct PointRule {
   bool (*Test)(const Sample& sample);
   int Color;        // QBColor number, or CurveColor
-  double Lift = 0;  // how far above the sample's value the point stands, user units
+  double Lift = 0;  // distance of the point above the sample's value, in user units
 };
 
 }  // namespace clinorama::relations
@@ -58,14 +59,15 @@ namespace clinorama {
 struct Form13::Operation {
   forms::CommandButton Form13::*Button;
   Window Form13::*On;
-  const relations::Manner& Manners;
+  const relations::Procedure& Procedure;
   relations::Strategy Sampling;
   relations::Range Over;
-  relations::Interval Values;  // of the samples that may be plotted
-  bool NotOnZeros = false;     // Solution must not be 0, and a failure to read it fails the test
-  std::vector<relations::Mark> Marks;
-  bool OnBothCanvases = true;  // else on the persistent one only
-  bool AtSolution = false;     // the ordinate plotted is read from Solution once more
+  relations::OpenInterval Values;  // of the samples that may be plotted
+  // Plots only where Solution is not 0. A failure to read it counts as a test passed.
+  bool NotOnZeros = false;
+  std::vector<relations::PointRule> Rules;
+  bool OnBothCanvases = true;  // false: on the persistent one only, which need not be in view
+  bool AtSolution = false;     // the ordinate of the point is Solution, read again
   int DotSize = 1;             // pixels across
   void (*AtEnd)(Form13& page) = nullptr;
 };

@@ -1,5 +1,4 @@
-// What binds the relations page together: its look, loading and activation, clearing, colours and
-// leaving.
+// Appearance, loading and activation of the relations page, clearing, colours and leaving.
 
 #include "forms/application.h"
 #include "relations/Form13.h"
@@ -19,41 +18,41 @@ Form13::Form13() : Page("Form13", {120, 330, 15165, 11100}, "CLINORAMA") {
   }
   Função1.AccessibleName = "Expressão analítica da função";
 
-  for (const Operation& operation : Operations()) {
-    (this->*operation.Button).Click = [this, &operation] { Executar(operation); };
+  for (const Operation& operation : Operations) {
+    (this->*operation.Button).Click = [this, &operation] { Execute(operation); };
   }
 
   ApagarGráfico1.Click = [this] {
     ModoCoresFunção = 0;
-    Graduar(JanelaFunção);
+    RedrawAxes(functionWindow_);
   };
-  // The record of the second derivative is the one that goes with the first derivative's clearing.
+  // Clearing the first derivative resets the mode of the second one, and ApagarSegunda resets none.
   ApagarPrimeira.Click = [this] {
     ModoCoresSegunda = 0;
-    Graduar(JanelaPrimeira);
+    RedrawAxes(firstWindow_);
   };
-  ApagarSegunda.Click = [this] { Graduar(JanelaSegunda); };
+  ApagarSegunda.Click = [this] { RedrawAxes(secondWindow_); };
 
   struct WindowButtons {
     const Window& Of;
     forms::CommandButton& Color;
-    forms::CommandButton& Ground;
+    forms::CommandButton& Background;
   };
-  for (const auto& [window, color, ground] :
-       {WindowButtons{JanelaFunção, CorDoGráfico, CorDoFundo},
-        WindowButtons{JanelaPrimeira, CorPrimeira, CorFundoPrimeira},
-        WindowButtons{JanelaSegunda, CorSegunda, CorFundoSegunda}}) {
-    // A colour of a curve takes effect at the next drawing.
+  for (const auto& [window, color, background] :
+       {WindowButtons{functionWindow_, CorDoGráfico, CorDoFundo},
+        WindowButtons{firstWindow_, CorPrimeira, CorFundoPrimeira},
+        WindowButtons{secondWindow_, CorSegunda, CorFundoSegunda}}) {
+    // The colour of a curve takes effect at the next drawing.
     color.Click = [&chooser = window.CurveColor] { chooser.ShowColor(); };
-    ground.Click = [this, &of = window] { MudarFundo(of); };
-    window.EixosRad.Click = [this, &of = window] { AlternarGraduação(of); };
+    background.Click = [this, &of = window] { ChangeBackground(of); };
+    window.EixosRad.Click = [this, &of = window] { ToggleGraduation(of); };
   }
 
   Sair.Click = [this] { Sair_Click(); };
 }
 
 void Form13::Form_Load() {
-  for (const Window* window : {&JanelaFunção, &JanelaPrimeira, &JanelaSegunda}) {
+  for (const Window* window : {&functionWindow_, &firstWindow_, &secondWindow_}) {
     for (forms::PictureBox* canvas : {&Persistent(*window), &Live(*window)}) {
       canvas->Height = window->Place.Height;
       canvas->Width = window->Place.Width;
@@ -69,35 +68,35 @@ void Form13::Form_Load() {
   }
 }
 
-// The grounds of the canvases keep their colours, though the choosers forget them, and so do the
-// buttons their captions.
+// The choosers forget their colours, but the canvases keep the background they have. The buttons
+// keep their captions.
 void Form13::Form_Activate() {
   GraduarTodas();
-  for (const Window* window : {&JanelaFunção, &JanelaPrimeira, &JanelaSegunda}) {
+  for (const Window* window : {&functionWindow_, &firstWindow_, &secondWindow_}) {
     window->CurveColor.Color = forms::Blue;
-    window->GroundColor.Color = forms::White;
+    window->BackgroundColor.Color = forms::White;
     window->Radianos = false;
   }
 }
 
-// A chooser that was cancelled keeps its colour, and the window is cleared all the same.
-void Form13::MudarFundo(const Window& window) {
-  window.GroundColor.ShowColor();
+// A cancelled chooser keeps its colour; the window is cleared in either case.
+void Form13::ChangeBackground(const Window& window) {
+  window.BackgroundColor.ShowColor();
   for (forms::PictureBox* canvas : {&Persistent(window), &Live(window)}) {
-    canvas->BackColor(window.GroundColor.Color);
-    Graduar(window);
+    canvas->BackColor(window.BackgroundColor.Color);
+    RedrawAxes(window);
   }
 }
 
-// Leaving toggles the graduations and resets none of them; the second derivative's turn comes only
-// when the first derivative's window went back to units. The next activation graduates all windows
-// in units, so a window left in units comes back with the other caption on its button.
+// Leaving toggles the graduation of the windows: that of the second derivative only when the toggle
+// put the first derivative in units. Form_Activate then draws units everywhere and leaves the
+// buttons alone, so a window that was in units comes back with "Unidades" on its button.
 void Form13::Sair_Click() {
   Visible = false;
-  AlternarGraduação(JanelaFunção);
-  AlternarGraduação(JanelaPrimeira);
-  if (!JanelaPrimeira.Radianos) {
-    AlternarGraduação(JanelaSegunda);
+  ToggleGraduation(functionWindow_);
+  ToggleGraduation(firstWindow_);
+  if (!firstWindow_.Radianos) {
+    ToggleGraduation(secondWindow_);
   }
 }
 

@@ -4,26 +4,26 @@
 
 namespace clinorama::relations {
 
-// How an operation of the page takes a statement that fails.
+// What an operation does when a statement fails.
 enum class Convention {
-  // The failure leaves the operation, which ends there with a message box.
+  // The operation ends with a message box.
   ReportAndStop,
   // The statement has no effect, and the next one runs.
   Ignore,
-  // As Ignore, and the point in hand is no longer valid.
+  // As Ignore, and the point of the present pass is not plotted.
   SkipSilently,
 };
 
 // Runs the statements and the tests of one press of a button under a convention.
 //
-// The rule of the two that go on: the next statement runs, in the order of the operation, and the
-// statement after a test is the first one of its branch. So a test that fails in itself counts as
-// passed. A variable that a failing statement was to set keeps its value.
+// Ignore and SkipSilently go on with the next statement. After a test that is the first statement
+// of its branch, so a test whose evaluation fails counts as passed. A variable that a failing
+// statement was to set keeps its value.
 class Recovery {
  public:
   explicit Recovery(Convention convention) : convention_(convention) {}
 
-  // Whether the statement came to its end.
+  // Returns whether the statement reached its end.
   template <class Body>
   bool Statement(Body&& body) {
     bool done = false;
@@ -55,11 +55,11 @@ class Recovery {
     return passed;
   }
 
-  // A pass has come to its end, so the next one begins with a valid point.
+  // Ends a pass: the point of the next one is valid until a statement fails.
   void EndPass() { pontoValido_ = true; }
 
-  // Whether the point in hand may be plotted. Only silent skipping ever says no: after a failure,
-  // and until a first pass has come to its end, as that pass has no neighbour yet.
+  // Whether the point of the present pass may be plotted. Only SkipSilently ever refuses one: after
+  // a failure in the pass, and in the whole first pass, which has no valid neighbour.
   bool PontoValido() const { return convention_ != Convention::SkipSilently || pontoValido_; }
 
  private:

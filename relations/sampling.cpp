@@ -13,17 +13,17 @@ using base::CountedLoop;
 
 namespace {
 
-constexpr double Step = 0.001;            // of every quotient, chord and pair, whatever the loop's
-constexpr double FirstAbscissa = -8.001;  // of the value before all derivative loops, however early
-                                          // they begin
+constexpr double Step = 0.001;  // of quotients, chords and neighbours; the loop's step may differ
+// The first value of a derivative is taken here, also when the loop begins at -8.1.
+constexpr double FirstAbscissa = -8.001;
 
-// The quotient of the differences as they come out, not of the nominal step.
+// The divisor is the computed difference, which by rounding is not always equal to Step.
 double Quotient(double yb, double ya, double xb, double xa) {
   return base::Guarded((yb - ya) / (xb - xa));
 }
 
-// One value for each sample of a walk, counted from 0. A cell holds nothing at first, and nothing
-// counts as 0.
+// One value for each sample of a loop, counted from 0. A cell that was not set counts as 0. An
+// index outside is failure 9.
 class Cells {
  public:
   double& operator()(int index) {
@@ -34,7 +34,7 @@ class Cells {
   }
 
  private:
-  static constexpr int LastIndex = 16500;  // the longest walk with cells has 16200 passes
+  static constexpr int LastIndex = 16500;  // the longest loop that uses cells has 16200 passes
   std::vector<double> values_ = std::vector<double>(LastIndex + 1);
 };
 
@@ -43,17 +43,17 @@ void Walk(const Range& range, Pass pass) {
   CountedLoop(range.From, range.To, range.Step, pass);
 }
 
-// A pass of the walk below: the samples at xa and xb, of which the second has the index i.
+// A pass of WalkPairs: two adjacent samples, of which the one at Xb has the index.
 struct Pair {
-  int i;
-  double xa;
-  double ya;
-  double xb;
-  double yb;
+  int Index;
+  double Xa;
+  double Ya;
+  double Xb;
+  double Yb;
 };
 
-// The walk of all derivatives: it keeps the values of the function in cells, which start with the
-// one at the first abscissa, and visits each sample with its neighbour on the left.
+// The loop of all derivatives: visits each sample with its left neighbour. It keeps the values of
+// the function in `values`, from that of FirstAbscissa on.
 template <class Visit>
 void WalkPairs(Sampler& f, const Range& range, Cells& values, Visit visit) {
   f.Evaluate(FirstAbscissa, values(0));
@@ -73,9 +73,10 @@ template <class Evaluation>
 void WalkSecondQuotients(Sampler& f, const Range& range, const Take& take,
                          Evaluation evaluateAgain) {
   Cells values;
-  Cells slopes;  // its first cell stays empty: the first pass below is never plotted
+  Cells slopes;  // the first cell stays empty, as the first pass below is never plotted
   WalkPairs(f, range, values, [&](const Pair& pair) {
-    f.Recovery.Statement([&] { slopes(pair.i) = Quotient(pair.yb, pair.ya, pair.xb, pair.xa); });
+    f.Recovery.Statement(
+        [&] { slopes(pair.Index) = Quotient(pair.Yb, pair.Ya, pair.Xb, pair.Xa); });
   });
   int i = 1;
   double q = 0;
@@ -100,7 +101,7 @@ bool Sampler::Solve(double x) {
   return Recovery.Statement([this] { equation_.Solve(); });
 }
 
-// Where the evaluation fails, to read its value would only fail in the same way once more.
+// After a failing evaluation the value is not read: that would fail again in the same way.
 void Sampler::Evaluate(double x, double& y) {
   if (Solve(x)) {
     y = Solution();
@@ -169,13 +170,13 @@ void FirstQuotients(Sampler& f, const Range& range, const Take& take) {
   Cells values;
   double s = 0;
   WalkPairs(f, range, values, [&](const Pair& pair) {
-    f.Recovery.Statement([&] { s = Quotient(pair.yb, pair.ya, pair.xb, pair.xa); });
-    take({.X = pair.xb, .Value = s});
+    f.Recovery.Statement([&] { s = Quotient(pair.Yb, pair.Ya, pair.Xb, pair.Xa); });
+    take({.X = pair.Xb, .Value = s});
     f.Recovery.EndPass();
   });
 }
 
-// In the first pass there is no cell two before, which fails; that pass plots nothing anyway.
+// In the first pass the index i - 2 is -1, which fails; that pass is not plotted anyway.
 void AdjacentQuotients(Sampler& f, const Range& range, const Take& take) {
   Cells values;
   double yc = 0;
@@ -183,13 +184,13 @@ void AdjacentQuotients(Sampler& f, const Range& range, const Take& take) {
   double s1 = 0;
   double s2 = 0;
   WalkPairs(f, range, values, [&](const Pair& pair) {
-    const double xc = pair.xb - 2 * Step;
-    f.Recovery.Statement([&] { yc = values(pair.i - 2); });
-    const double xd = pair.xb - Step;
+    const double xc = pair.Xb - 2 * Step;
+    f.Recovery.Statement([&] { yc = values(pair.Index - 2); });
+    const double xd = pair.Xb - Step;
     f.Evaluate(xd, yd);
-    f.Recovery.Statement([&] { s1 = Quotient(pair.yb, pair.ya, pair.xb, pair.xa); });
+    f.Recovery.Statement([&] { s1 = Quotient(pair.Yb, pair.Ya, pair.Xb, pair.Xa); });
     f.Recovery.Statement([&] { s2 = Quotient(yd, yc, xd, xc); });
-    take({.X = pair.xb, .Value = s1, .Reference = s2});
+    take({.X = pair.Xb, .Value = s1, .Reference = s2});
     f.Recovery.EndPass();
   });
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cmath>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -9,36 +11,28 @@
 
 namespace clinorama::tests {
 
-using Kind = forms::DrawingOperation::Kind;
-
-constexpr forms::Color Yellow{0xFFFF00};
+using Drawing = forms::DrawingOperation;
+using Kind = Drawing::Kind;
 
 // The lesson on a scripted machine, opened at page 0, with what it draws on record.
 class LessonTest : public ApplicationTest {
  protected:
-  Form9& page = forms::The<Form9>();
-  std::vector<forms::DrawingOperation> drawn;
-
-  void SetUp() override {
+  LessonTest() {
     page.Show();
     Record();
   }
 
   void Record() {
     drawn.clear();
-    page.Picture1.Observer = [this](const forms::DrawingOperation& operation) {
-      drawn.push_back(operation);
-    };
+    host.Steps = 0;
+    host.WaitedMilliseconds = 0;
+    page.Picture1.Observer = [this](const Drawing& drawing) { drawn.push_back(drawing); };
   }
 
   // What is drawn from the last Record on, of one kind.
-  std::vector<forms::DrawingOperation> Drawn(Kind kind) const {
-    std::vector<forms::DrawingOperation> chosen;
-    for (const auto& operation : drawn) {
-      if (operation.What == kind) {
-        chosen.push_back(operation);
-      }
-    }
+  std::vector<Drawing> Drawn(Kind kind) const {
+    auto chosen = drawn;
+    std::erase_if(chosen, [kind](const Drawing& drawing) { return drawing.What != kind; });
     return chosen;
   }
 
@@ -47,14 +41,7 @@ class LessonTest : public ApplicationTest {
     for (int i = std::stoi(page.Label3.Caption()); i < number; ++i) {
       page.Seguinte.UserClick();
     }
-    host.Steps = 0;
-    host.WaitedMilliseconds = 0;
     Record();
-  }
-
-  // Has the user do something in a step of what is about to run, counted from 1.
-  void AtStep(int step, std::function<void()> action) {
-    host.AtStep(host.Steps + step, std::move(action));
   }
 
   std::string EnabledButtons() const {
@@ -78,10 +65,8 @@ class LessonTest : public ApplicationTest {
     return numbers;
   }
 
-  // The pixel of the kept picture at a point in user units.
-  forms::Color PixelAt(double x, double y) const {
-    return ColorAt(page.Picture1, page.Picture1.Kept(), x, y);
-  }
+  Form9& page = forms::The<Form9>();
+  std::vector<Drawing> drawn;
 };
 
 }  // namespace clinorama::tests

@@ -1,250 +1,208 @@
-// The relations page apart from its drawings: graduation, colours, clearing, leaving and returning.
+// The relations page apart from its drawings: places, graduation, colours, clearing, leaving and
+// returning.
 
 #include <algorithm>
-#include <array>
-#include <map>
-#include <string>
-#include <utility>
-#include <vector>
+#include <cmath>
 
+#include "base/number_text.h"
 #include "tests/relations/relations_test.h"
 
 namespace clinorama::tests {
 namespace {
 
 using PageControlTest = RelationsTest;
-using forms::The;
+using F = Form13;
 
-std::vector<std::string> Texts(const std::vector<Drawing>& prints) {
-  std::vector<std::string> texts;
-  texts.reserve(prints.size());
-  for (const Drawing& print : prints) {
-    texts.push_back(print.Text);
-  }
-  return texts;
-}
+// The buttons of a window that tests ask alike of all windows.
+struct Window {
+  int Persistent;
+  Button Draw, Clear, Toggle, Color, Background;
+  bool F::*Radians;
+};
+const Window Windows[] = {
+    {1, &F::DesenharGráfico, &F::ApagarGráfico1, &F::EixosRad, &F::CorDoGráfico, &F::CorDoFundo,
+     &F::RadianosFunção},
+    {3, &F::DesenharPrimeira, &F::ApagarPrimeira, &F::EixosRad1, &F::CorPrimeira,
+     &F::CorFundoPrimeira, &F::RadianosPrimeira},
+    {5, &F::DesenharSegunda, &F::ApagarSegunda, &F::EixosRad2, &F::CorSegunda, &F::CorFundoSegunda,
+     &F::RadianosSegunda},
+};
 
-int TicksAcrossXAxis(const std::vector<Drawing>& lines) {
-  return static_cast<int>(std::count_if(lines.begin(), lines.end(), [](const Drawing& line) {
-    return line.X1 == line.X2 && line.Y1 == 0.1 && line.Y2 == -0.1;
-  }));
-}
-
-// Each window has its place between buttons, legends and the edge of the page.
-TEST_F(PageControlTest, NothingLiesOverAnythingElse) {
-  const auto overlap = [](const forms::Control& a, const forms::Control& b) {
-    return a.Left < b.Left + b.Width && b.Left < a.Left + a.Width && a.Top < b.Top + b.Height &&
-           b.Top < a.Top + a.Height;
-  };
-  for (const forms::Control* control : page.Children()) {
-    if (!control->Visible) {
-      continue;
-    }
-    EXPECT_TRUE(control->Left >= 0 && control->Left + control->Width <= page.Width &&
-                control->Top >= 0 && control->Top + control->Height <= page.Height)
-        << control->Name();
-    for (const forms::Control* other : page.Children()) {
-      if (other == control || !other->Visible) {
-        continue;
+// Controls lie inside their container and beside one another, and a caption has one icon.
+TEST_F(PageControlTest, Layout) {
+  std::map<std::string, std::string> icons;
+  for (const forms::Container* outer : std::initializer_list<const forms::Container*>{
+           &page, &page.Frame1, &page.Frame2, &page.Frame4, &page.Frame5}) {
+    for (const forms::Control* a : outer->Children()) {
+      SCOPED_TRACE(a->Name());
+      if (const auto* button = dynamic_cast<const forms::CommandButton*>(a)) {
+        EXPECT_EQ(icons.emplace(button->Caption, button->Picture).first->second, button->Picture);
       }
-      EXPECT_FALSE(overlap(*control, *other)) << control->Name() << " and " << other->Name();
+      const double right = a->Left + a->Width;
+      const double bottom = a->Top + a->Height;
+      EXPECT_TRUE(a->Left >= 0 && a->Top >= 0 && right <= outer->Width && bottom <= outer->Height);
+      for (const forms::Control* b : outer->Children()) {
+        EXPECT_TRUE(a == b || !a->Visible || !b->Visible || right <= b->Left || bottom <= b->Top ||
+                    b->Left + b->Width <= a->Left || b->Top + b->Height <= a->Top);
+      }
     }
   }
 }
 
-TEST_F(PageControlTest, OpensWithLiveCanvasesInUnitsAndBlueCurves) {
-  for (const int persistent : {1, 3, 5}) {
+TEST_F(PageControlTest, OpensWithLiveCanvasesInUnits) {
+  EXPECT_EQ(page.Função1.Text(), "x*(1-cos(x))");
+  for (const auto& [persistent, pixels] : {std::pair{1, 533}, {3, 333}, {5, 333}}) {
+    const forms::PictureBox& kept = page.Picture1(persistent);
+    const forms::PictureBox& live = page.Picture1(persistent + 1);
     EXPECT_FALSE(PersistentInView(persistent));
-    EXPECT_TRUE(page.Picture1(persistent).AutoRedraw);
-    EXPECT_FALSE(page.Picture1(persistent + 1).AutoRedraw);
-    EXPECT_EQ(page.Picture1(persistent).Left(), page.Picture1(persistent + 1).Left());
-    EXPECT_EQ(page.Picture1(persistent).Top(), page.Picture1(persistent + 1).Top());
+    EXPECT_TRUE(kept.AutoRedraw && !live.AutoRedraw);
+    EXPECT_TRUE(live.ScaleWidth() == 20 && live.ScaleHeight() == -20);
+    EXPECT_TRUE(kept.Left() == live.Left() && kept.Top() == live.Top());
+    EXPECT_TRUE(kept.Screen().Width() == pixels && live.Screen().Width() == pixels);
+    EXPECT_EQ(live.Screen().At(pixels / 2, pixels / 2), forms::Black);
   }
-  for (const forms::CommonDialog* curve :
-       {&page.CommonDialog1, &page.CommonDialog3, &page.CommonDialog5}) {
-    EXPECT_EQ(curve->Color, forms::Blue);
-  }
-  EXPECT_EQ(page.EixosRad.Caption(), "Radianos");
-  EXPECT_EQ(page.EixosRad2.ToolTipText(), "Graduar os eixos das abcissas em radianos.");
-  EXPECT_EQ(page.Picture1(2).Screen().At(266, 266), forms::Black) << "no axes on what is seen";
 }
 
-// The axes with their heads, and on either of them a mark and a number for each integer.
-TEST_F(PageControlTest, UnitsMarkAndNumberBothAxes) {
-  using Segment = std::array<double, 4>;
-  std::vector<Segment> lines = {{-9, 0, 9, 0},     {0, 9, 0, -9},        {-0.15, 8.7, 0, 9},
-                                {0.15, 8.7, 0, 9}, {8.7, -0.15, 9.1, 0}, {8.7, 0.15, 9.1, 0}};
-  std::map<std::string, std::vector<std::pair<double, double>>> numbers = {{"x", {{9.2, -0.3}}},
-                                                                           {"y", {{-0.7, 9.7}}}};
-  for (int j = -8; j <= 8; ++j) {
-    lines.push_back({double(j), 0.1, double(j), -0.1});
-  }
-  for (int j = -8; j <= 8; ++j) {
-    lines.push_back({-0.1, double(j), 0.1, double(j)});
-    if (j == 0) {
-      continue;
+// The axes with their heads, marks and numbers, on both canvases of a window.
+TEST_F(PageControlTest, GraduatesInUnitsAndInRadians) {
+  const char* const labels[] = {"-5p/2", "-2p", "-3p/2", "-p", "-p/2", "",
+                                "p/2",   "p",   "3p/2",  "2p", "5p/2"};
+  const double offsets[] = {0.9, 0.5, 0.6, 0.3, 0.5, 0, 0.5, 0.3, 0.6, 0.3, 0.6};
+  const auto same = [](const Drawing& a, const Drawing& b) {
+    const double ends = std::hypot(a.X2 - b.X2, a.Y2 - b.Y2);
+    return a.What == b.What && a.Text == b.Text &&
+           std::hypot(a.X1 - b.X1, a.Y1 - b.Y1, ends) < 1e-9;
+  };
+  forms::Surface expected(8000, 8000, 1);
+  expected.Observer = [&](const Drawing& operation) { Drawn[0].push_back(operation); };
+  for (const bool radians : {false, true}) {
+    Press(radians ? &F::EixosRad : &F::ApagarGráfico1);
+    expected.Cls();
+    expected.Line(-9, 0, 9, 0);
+    expected.Line(0, 9, 0, -9);
+    for (const double side : {-0.15, 0.15}) {
+      expected.Line(side, 8.7, 0, 9);
+      expected.Line(8.7, side, 9.1, 0);
     }
-    numbers[(j < 0 ? "" : " ") + std::to_string(j) + " "] = {{j - 0.3, -0.4}, {-0.7, j + 0.3}};
-  }
-  Press(&Form13::ApagarGráfico1);
-  for (const int canvas : {1, 2}) {
-    std::vector<Segment> drawn;
-    for (const Drawing& line : Of(canvas, Drawing::Kind::Line)) {
-      drawn.push_back({line.X1, line.Y1, line.X2, line.Y2});
+    expected.PrintAt(9.2, -0.3, "x");
+    expected.PrintAt(-0.7, 9.7, "y");
+    for (int j = -8; j <= 8; ++j) {
+      expected.Line(-0.1, j, 0.1, j);
+      if (j != 0) {
+        expected.PrintAt(-0.7, j + 0.3, base::PrintedNumber(j));
+      }
+      for (int time = 0; radians && time < 2; ++time) {
+        expected.PSet(-0.05, j);
+        expected.PSet(0.1, j);
+      }
     }
-    EXPECT_EQ(drawn, lines);
-    std::map<std::string, std::vector<std::pair<double, double>>> printed;
-    for (const Drawing& text : Of(canvas, Drawing::Kind::Text)) {
-      printed[text.Text].emplace_back(text.X1, text.Y1);
+    for (int i = radians ? -5 : -8; i <= (radians ? 5 : 8); ++i) {
+      const double x = radians ? i * 3.14159 / 2 : i;
+      expected.Line(x, 0.1, x, -0.1);
+      if (i != 0 && radians) {
+        expected.PrintAt(x - offsets[i + 5], -0.6, labels[i + 5]);
+      } else if (i != 0) {
+        expected.PrintAt(x - 0.3, -0.4, base::PrintedNumber(i));
+      }
     }
-    EXPECT_EQ(printed, numbers);
-  }
-  EXPECT_TRUE(Drawn[3].empty());
-}
-
-TEST_F(PageControlTest, RadiansHaveElevenMarksAndTenLabelsOnBothCanvases) {
-  Press(&Form13::EixosRad1);
-  for (const int canvas : {3, 4}) {
-    EXPECT_EQ(TicksAcrossXAxis(Of(canvas, Drawing::Kind::Line)), 11);
-    EXPECT_EQ(Points(canvas).size(), 17u * 4);
-    const auto prints = Of(canvas, Drawing::Kind::Text);
-    auto texts = Texts(prints);
-    ASSERT_EQ(texts.size(), 28u);
-    EXPECT_NEAR(prints[18].X1, -5 * 3.14159 / 2 - 0.9, 1e-9);
-    EXPECT_EQ(prints[27].Y1, -0.6);
-    texts.erase(texts.begin(), texts.begin() + 18);
-    EXPECT_EQ(texts, (std::vector<std::string>{"-5p/2", "-2p", "-3p/2", "-p", "-p/2", "p/2", "p",
-                                               "3p/2", "2p", "5p/2"}));
+    for (const int canvas : {1, 2}) {
+      EXPECT_TRUE(std::is_permutation(Drawn[0].begin(), Drawn[0].end(), Drawn[canvas].begin(),
+                                      Drawn[canvas].end(), same));
+    }
   }
 }
 
 // The numbers of the y axis are bold after a graduation in units and plain after one in radians.
-TEST_F(PageControlTest, RadiansKeepTheBoldnessOfTheLastGraduation) {
-  const auto isBold = [&](Button button) {
+TEST_F(PageControlTest, FontsOfTheGraduation) {
+  const auto fonts = [&](Button button) {
     host.Texts.clear();
     Press(button);
+    std::map<std::string, std::string> found;
     for (const forms::TextRun& run : host.Texts) {
-      if (run.Text == " 8 ") {
-        return run.Font.Bold;
-      }
+      found[run.Text] = run.Font.Name + (run.Font.Bold ? " bold " : " ") +
+                        std::to_string(std::lround(run.Font.Size));
     }
-    return false;
+    return found[" 8 "] + ", " + found["x"] + ", " + found["2π"];
   };
-  EXPECT_TRUE(isBold(&Form13::EixosRad));
-  EXPECT_FALSE(isBold(&Form13::ApagarGráfico1));
-  EXPECT_TRUE(isBold(&Form13::EixosRad));
+  EXPECT_EQ(fonts(&F::EixosRad), "MS Serif bold 6, MS Sans Serif bold 6, symbol 9");
+  EXPECT_EQ(fonts(&F::ApagarGráfico1), "MS Serif 6, MS Sans Serif bold 6, symbol 9");
+  EXPECT_EQ(fonts(&F::EixosRad), "MS Serif bold 6, MS Sans Serif bold 6, ");
 }
 
-TEST_F(PageControlTest, TogglingTwiceComesBackAndClearsBothTimes) {
-  struct Row {
-    Button Toggle;
-    bool Form13::*Field;
-    int Persistent;
-  };
-  for (const auto& [toggle, field, persistent] :
-       {Row{&Form13::EixosRad, &Form13::RadianosFunção, 1},
-        Row{&Form13::EixosRad1, &Form13::RadianosPrimeira, 3},
-        Row{&Form13::EixosRad2, &Form13::RadianosSegunda, 5}}) {
+// Colours and graduation of each window, and what is left of them after leaving and returning.
+TEST_F(PageControlTest, EachWindowHasItsOwnColoursAndGraduation) {
+  for (const Window& window : Windows) {
+    SCOPED_TRACE(window.Persistent);
+    const int live = window.Persistent + 1;
+    host.ChosenColor = forms::QBColor(Yellow);
+    host.ColorsOffered.clear();
+    Press(window.Color);
+    EXPECT_TRUE(Drawn.empty());
+    Press(window.Draw, "x^2");
+    EXPECT_EQ(Points(live).at(0).Pen, forms::QBColor(Yellow));
     for (const bool radians : {true, false}) {
-      Press(toggle);
-      EXPECT_EQ(page.*field, radians);
-      EXPECT_EQ((page.*toggle).Caption(), radians ? "Unidades" : "Radianos");
-      EXPECT_EQ((page.*toggle).ToolTipText(), radians ? "Graduar o eixo das abcissas em unidades"
-                                                      : "Graduar o eixo das abcissas em radianos");
-      EXPECT_EQ(Of(persistent, Drawing::Kind::Clear).size(), 1u);
-      EXPECT_EQ(Of(persistent + 1, Drawing::Kind::Clear).size(), 1u);
+      for (const Button button : {window.Toggle, window.Clear, window.Background}) {
+        Press(button);
+        EXPECT_EQ(Drawn.size(), 2U);
+        EXPECT_EQ(page.*window.Radians, radians);
+        for (auto& [canvas, drawings] : Drawn) {
+          EXPECT_TRUE(canvas == window.Persistent || canvas == live);
+          EXPECT_EQ(drawings.back().Text, radians ? "5p/2" : "y");
+        }
+      }
+      EXPECT_EQ((page.*window.Toggle).Caption(), radians ? "Unidades" : "Radianos");
+      EXPECT_EQ(
+          (page.*window.Toggle).ToolTipText(),
+          std::string("Graduar o eixo das abcissas em ") + (radians ? "unidades" : "radianos"));
+      host.ChosenColor.reset();  // the second background is cancelled
     }
+    EXPECT_EQ(host.ColorsOffered, (std::vector{forms::Blue, forms::White, forms::QBColor(Yellow)}));
+    Press(&F::Sair);
+    page.Show();
+    EXPECT_EQ(page.Picture1(window.Persistent).BackColor(), forms::QBColor(Yellow));
+    EXPECT_EQ(page.Picture1(live).BackColor(), forms::QBColor(Yellow));
+    Press(window.Draw);
+    EXPECT_EQ(Points(live).at(0).Pen, forms::Blue);
+    Press(window.Background);
+    EXPECT_EQ(page.Picture1(live).BackColor(), forms::White);
   }
 }
 
 // Leaving toggles: function, first derivative, and the second one only if the first came to units.
 TEST_F(PageControlTest, CaptionsAfterLeavingAndReturning) {
-  struct Row {
-    std::array<bool, 3> Radians;  // of the windows when the user leaves
-    std::array<std::string, 3> Captions;
-  };
-  const std::string u = "Unidades";
-  const std::string r = "Radianos";
-  const Row rows[] = {
-      {{false, false, false}, {u, u, r}}, {{true, true, true}, {r, r, r}},
-      {{false, true, false}, {u, r, u}},  {{true, false, true}, {r, u, u}},
-      {{true, true, false}, {r, r, u}},   {{false, false, true}, {u, u, u}},
-  };
-  for (const Row& row : rows) {
-    The<Form13>().Unload();
-    auto& fresh = The<Form13>();
-    fresh.Show();
-    const std::array<forms::CommandButton*, 3> toggles = {&fresh.EixosRad, &fresh.EixosRad1,
-                                                          &fresh.EixosRad2};
-    for (std::size_t i = 0; i < toggles.size(); ++i) {
-      if (row.Radians[i]) {
-        toggles[i]->UserClick();
+  // The graduations when the user leaves, and the first letters of the captions afterwards.
+  for (const auto& [left, captions] :
+       {std::pair{"uru", "URU"}, {"rur", "RUU"}, {"rrr", "RRR"}, {"uuu", "UUR"}}) {
+    for (int i = 0; i < 3; ++i) {
+      if (left[i] == 'r') {
+        Press(Windows[i].Toggle);
       }
     }
-    fresh.Sair.UserClick();
-    EXPECT_FALSE(fresh.Visible());
-    fresh.Show();
-    for (std::size_t i = 0; i < toggles.size(); ++i) {
-      EXPECT_EQ(toggles[i]->Caption(), row.Captions[i]) << i;
+    Press(&F::Sair);
+    EXPECT_FALSE(page.Visible());
+    page.Show();
+    for (int i = 0; i < 3; ++i) {
+      EXPECT_EQ((page.*Windows[i].Toggle).Caption().front(), captions[i]) << left << i;
+      EXPECT_FALSE(page.*Windows[i].Radians);
+      EXPECT_EQ(Drawn[Windows[i].Persistent].back().Text, "y");
     }
-    EXPECT_FALSE(fresh.RadianosFunção || fresh.RadianosPrimeira || fresh.RadianosSegunda);
   }
-}
-
-// A clearing in units sets a caption right on the function only.
-TEST_F(PageControlTest, StaleCaptionsAfterReturning) {
-  page.Sair.UserClick();
-  page.Show();
-  Press(&Form13::ApagarGráfico1);
-  Press(&Form13::ApagarPrimeira);
+  // A clearing in units sets the caption right on the function only.
+  Press(&F::ApagarGráfico1);
+  Press(&F::ApagarPrimeira);
   EXPECT_EQ(page.EixosRad.Caption(), "Radianos");
-  EXPECT_EQ(page.EixosRad1.Caption(), "Unidades");
-  Press(&Form13::EixosRad1);
-  EXPECT_TRUE(page.RadianosPrimeira);
   EXPECT_EQ(page.EixosRad1.Caption(), "Unidades");
 }
 
 TEST_F(PageControlTest, ClearingTheFirstDerivativeForgetsTheColouringOfTheSecond) {
-  Press(&Form13::ColocarCoresSegunda, "x^3");
-  Press(&Form13::ColocarCoresFunção2);
-  EXPECT_EQ(page.ModoCoresFunção, 2);
-  Press(&Form13::ApagarSegunda);
-  EXPECT_EQ(page.ModoCoresSegunda, 1);
-  Press(&Form13::ApagarPrimeira);
-  EXPECT_EQ(page.ModoCoresSegunda, 0);
-  Press(&Form13::ApagarGráfico1);
-  EXPECT_EQ(page.ModoCoresFunção, 0);
-}
-
-TEST_F(PageControlTest, GroundIsAskedForAndTheWindowClearedEvenWhenCancelled) {
-  Press(&Form13::EixosRad2);
-  host.ChosenColor = forms::QBColor(14);
-  Press(&Form13::CorFundoSegunda);
-  EXPECT_EQ(page.Picture1(5).BackColor(), forms::QBColor(14));
-  EXPECT_EQ(page.Picture1(6).BackColor(), forms::QBColor(14));
-  EXPECT_EQ(Texts(Of(6, Drawing::Kind::Text)).back(), "5p/2") << "drawn in the same graduation";
-
-  Press(&Form13::DesenharGráfico, "3");
-  host.ChosenColor.reset();
-  Press(&Form13::CorDoFundo);
-  EXPECT_EQ(page.Picture1(1).BackColor(), forms::White);
-  EXPECT_FALSE(Of(1, Drawing::Kind::Clear).empty());
-  EXPECT_EQ(page.Picture1(1).Kept().At(400, 186), forms::White) << "the graph is gone";
-}
-
-TEST_F(PageControlTest, ActivationForgetsTheColoursOfCurvesButNotTheGrounds) {
-  host.ChosenColor = forms::QBColor(14);
-  Press(&Form13::CorPrimeira);
-  Press(&Form13::CorFundoPrimeira);
-  page.Sair.UserClick();
-  page.Show();
-  EXPECT_EQ(page.CommonDialog3.Color, forms::Blue);
-  EXPECT_EQ(page.Picture1(3).BackColor(), forms::QBColor(14));
-  host.ColorsOffered.clear();
-  host.ChosenColor.reset();
-  Press(&Form13::CorFundoPrimeira);
-  EXPECT_EQ(host.ColorsOffered, std::vector{forms::White});
-  EXPECT_EQ(page.Picture1(3).BackColor(), forms::White);
+  std::string modes;
+  for (const Button button :
+       {&F::ColocarCoresFunção, &F::ColocarCoresFunção2, &F::ColocarCoresSegunda, &F::ApagarSegunda,
+        &F::ApagarPrimeira, &F::ApagarGráfico1}) {
+    Press(button);
+    modes += std::to_string(page.ModoCoresFunção) + std::to_string(page.ModoCoresSegunda) + " ";
+  }
+  EXPECT_EQ(modes, "10 20 21 21 20 00 ");
 }
 
 }  // namespace
