@@ -28,8 +28,8 @@ class ErroInterpretador : public base::Failure {
 // `Module1::CodigoDominio`.
 class clsEquation {
  public:
-  // What `Solution` gives for a point outside the domain. It lies outside the bounds of every
-  // drawing, so such a point is not drawn.
+  // What `Solution` gives for a point outside the domain. Most drawing routines skip it, as it lies
+  // outside their bounds.
   static constexpr double ForaDoDominio = 1000.0;
 
   // A flag without effect: the trigonometric functions always work in radians.
@@ -44,7 +44,7 @@ class clsEquation {
   // The expression in lower case.
   const std::string& Equation() const { return expressao_; }
 
-  // Removes a variable; a name that isn't there is ignored.
+  // Removes a variable; a name that has no value is ignored.
   void VarRemove(std::string_view name);
 
   // The value of the expression, `ForaDoDominio` if the point is outside its domain. Calls `Solve`
@@ -60,7 +60,7 @@ class clsEquation {
   // nothing: `Solution` shows it and, for most guarded operations, `Module1::CodigoDominio`.
   void Solve();
 
-  // The value of a variable, 0 for a name that isn't there. Names compare without regard to case.
+  // The value of a variable, 0 for a name that has none. Names compare without regard to case.
   double Var(std::string_view name) const { return variaveis_.Read(name); }
   void Var(std::string_view name, double value) {
     alterada_ = true;
