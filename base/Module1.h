@@ -2,21 +2,21 @@
 
 #include <cstdint>
 
-// The variables that several pages share. They live as long as the program and keep their value
-// when a page is unloaded.
+// The variables that several pages share. They keep their values when a page is unloaded.
 namespace clinorama::Module1 {
 
 // The page at which the instructions open. Written by the item `Instruções` of the menu of
 // `Form2`, with 1; read by the load of `Form6`.
 inline std::int16_t PaginaInstrucoes = 0;
 
-// The page at which the comments were asked for. Written by the item `Comentários` of the menu of
-// `Form2`, with 1; nothing reads it, since the comments always open at their first page.
+// The page at which the comments open. Written by the item `Comentários` of the menu of `Form2`,
+// with
+// 1. Nothing reads it, as the comments always open at their first page.
 inline std::int16_t PaginaComentarios = 0;
 
-// Code of the last guarded operation of an expression: 1 to 18 mean that it failed, 30 and more
-// that it succeeded. Written by `clsEquation::Solve` alone and never reset, so a code outlives the
-// evaluation that set it; read by the derivative routines of `Form12`.
+// The code of the last guarded operation of an expression: 1 to 18 if it failed, 30 or more if it
+// succeeded. Only `clsEquation::Solve` writes it, and nothing resets it, so a code stays until
+// another guarded operation. Read by the derivative routines of `Form12`.
 inline std::int16_t CodigoDominio = 0;
 
 // Who opened the examples window. Written by `Form12` when it opens `Form5`, with 3, and by

@@ -6,18 +6,17 @@
 
 #include "base/failure.h"
 
-// The elementary steps of every calculation. No infinity and no not-a-number may ever stay in a
-// value, so each step tests its own result: a formula is written as a chain of these steps, and
-// fails at the very step that leaves the range. Their arguments are always finite. A result too
-// small for a normal number passes.
+// The checked steps that every formula is made of. No value may be an infinity or a not-a-number,
+// so each step tests its result and fails where the result leaves the range of the reals. The
+// arguments are always finite. A result that is too small for a normal number is no failure.
 namespace clinorama::base {
 
 constexpr double NotANumber = std::numeric_limits<double>::quiet_NaN();
 
-// Neither an infinity nor not a number.
+// Whether the value is neither an infinity nor a not-a-number.
 inline bool Finite(double value) { return std::fabs(value) <= std::numeric_limits<double>::max(); }
 
-// The value, unless it is an infinity or not a number, which is an overflow.
+// The value; an infinity or a not-a-number is an `Overflow`.
 inline double Guarded(double value) {
   if (!Finite(value)) [[unlikely]] {
     Raise(Overflow);
@@ -29,7 +28,7 @@ inline double Add(double a, double b) { return Guarded(a + b); }
 inline double Subtract(double a, double b) { return Guarded(a - b); }
 inline double Multiply(double a, double b) { return Guarded(a * b); }
 
-// A division by an exact zero, whatever its sign, is a failure of its own, but 0/0 is an overflow.
+// A division by an exact zero of either sign is a `DivisionByZero`, but 0/0 is an `Overflow`.
 inline double Divide(double a, double b) {
   if (b == 0) [[unlikely]] {
     Raise(a == 0 ? Overflow : DivisionByZero);
@@ -37,8 +36,10 @@ inline double Divide(double a, double b) {
   return Guarded(a / b);
 }
 
+// e to the power `a`.
 inline double Exp(double a) { return Guarded(std::exp(a)); }
 
+// The natural logarithm; `InvalidArgument` unless `a` is above 0.
 inline double Log(double a) {
   if (a <= 0) [[unlikely]] {
     Raise(InvalidArgument);
@@ -46,6 +47,7 @@ inline double Log(double a) {
   return std::log(a);
 }
 
+// `InvalidArgument` below 0.
 inline double Sqrt(double a) {
   if (a < 0) [[unlikely]] {
     Raise(InvalidArgument);
@@ -53,16 +55,16 @@ inline double Sqrt(double a) {
   return std::sqrt(a);
 }
 
-// `base` raised to `exponent`, unchecked. A square is a*a and a cube a*a*a, which are much quicker
-// than the power function and differ from it in the last place at most.
+// `base` raised to `exponent`, unchecked. Squares and cubes are products: they are much quicker
+// than the power function and differ from it by the last bit at most.
 inline double PlainPower(double base, double exponent) {
   return exponent == 2   ? base * base
          : exponent == 3 ? base * base * base
                          : std::pow(base, exponent);
 }
 
-// A negative base with a non-integer exponent is an invalid argument; zero with a negative exponent
-// is the division by zero that it amounts to.
+// A negative base with a non-integer exponent is an `InvalidArgument`, and zero with a negative
+// exponent a `DivisionByZero`.
 inline double Power(double base, double exponent) {
   const double result = PlainPower(base, exponent);
   if (!Finite(result)) [[unlikely]] {
@@ -71,11 +73,11 @@ inline double Power(double base, double exponent) {
   return result;
 }
 
-// -1, 0 or 1.
+// -1, 0 or 1, as `a` is negative, zero or positive.
 inline double Sign(double a) { return a > 0 ? 1 : a < 0 ? -1 : 0; }
 
-// Rounds to a 32-bit integer, ties to the even neighbour; outside the range it is an overflow. The
-// result is wider than that so that quotients and remainders of it cannot overflow in the machine.
+// Rounds to a 32-bit integer, ties to the even neighbour; outside the range it is an `Overflow`.
+// The result type is wider, so that no quotient and no remainder of two results can overflow.
 inline std::int64_t Round32(double a) {
   const double rounded = std::nearbyint(a);
   if (!(rounded >= std::numeric_limits<std::int32_t>::min() &&
@@ -85,35 +87,36 @@ inline std::int64_t Round32(double a) {
   return static_cast<std::int64_t>(rounded);
 }
 
-// Both operands rounded, for a division of integers; a rounded divisor of 0 is a failure.
+// The rounded operands of an integer division. Their divisor is never 0.
 struct RoundedPair {
-  std::int64_t dividend;
-  std::int64_t divisor;
+  std::int64_t Dividend;
+  std::int64_t Divisor;
 };
 
+// A divisor that rounds to 0 is a `DivisionByZero`.
 inline RoundedPair RoundForDivision(double a, double b) {
   const RoundedPair pair{Round32(a), Round32(b)};
-  if (pair.divisor == 0) [[unlikely]] {
+  if (pair.Divisor == 0) [[unlikely]] {
     Raise(DivisionByZero);
   }
   return pair;
 }
 
-// Quotient of the rounded operands, truncated towards zero. The one quotient that does not fit
-// in 32 bits, that of the least integer by -1, is an overflow.
+// The quotient of the rounded operands, truncated towards zero. The least integer divided by -1
+// does not fit in 32 bits and is an `Overflow`.
 inline double IntegerQuotient(double a, double b) {
   const RoundedPair pair = RoundForDivision(a, b);
-  const std::int64_t quotient = pair.dividend / pair.divisor;
+  const std::int64_t quotient = pair.Dividend / pair.Divisor;
   if (quotient > std::numeric_limits<std::int32_t>::max()) [[unlikely]] {
     Raise(Overflow);
   }
   return static_cast<double>(quotient);
 }
 
-// Remainder of the rounded operands, with the sign of the first.
+// The remainder of the rounded operands, with the sign of the first.
 inline double IntegerRemainder(double a, double b) {
   const RoundedPair pair = RoundForDivision(a, b);
-  return static_cast<double>(pair.dividend % pair.divisor);
+  return static_cast<double>(pair.Dividend % pair.Divisor);
 }
 
 }  // namespace clinorama::base

@@ -4,10 +4,10 @@ namespace clinorama::base {
 
 namespace {
 
-// The texts of 1101, 1102 and 1104 are followed by a part of the expression.
+// The part of the expression that failed follows the texts of 1101, 1102 and 1104.
 constexpr struct {
-  int number;
-  const char* description;
+  int Number;
+  const char* Description;
 } Descriptions[] = {
     {InvalidArgument, "Argumento inválido."},
     {Overflow, "Excesso de capacidade."},
@@ -23,8 +23,8 @@ constexpr struct {
 
 const char* DescriptionOf(int number) {
   for (const auto& row : Descriptions) {
-    if (row.number == number) {
-      return row.description;
+    if (row.Number == number) {
+      return row.Description;
     }
   }
   return "";

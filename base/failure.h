@@ -6,8 +6,7 @@
 
 namespace clinorama::base {
 
-// The numbers of failures. The first five are general; those from 1100 up belong to the interpreter
-// of expressions.
+// The numbers of failures. Those from 1100 up belong to the interpreter of expressions.
 constexpr int InvalidArgument = 5;
 constexpr int Overflow = 6;
 constexpr int IndexOutOfRange = 9;
@@ -19,11 +18,11 @@ constexpr int UndefinedVariable = 1102;
 constexpr int InvalidExpression = 1103;
 constexpr int NoArgument = 1104;
 
-// A statement that could not be carried out, for one of the numbered reasons above: the only kind
-// of exception that a page may ignore or show. Any other one is an error of the program itself.
+// A statement could not be carried out, for one of the reasons above. A page may ignore or show
+// this kind of exception and no other, as any other is an error of the program.
 class Failure : public std::runtime_error {
  public:
-  // With the standing description of that number.
+  // With the usual description of that number.
   explicit Failure(int number);
   // With a description that names what failed, in UTF-8, for the user to read.
   Failure(int number, const std::string& description)
@@ -36,19 +35,18 @@ class Failure : public std::runtime_error {
   int number_;
 };
 
-// Throws the failure of that number with its standing description. It is a function of its own
-// and not a part of every check, so that the code of the checks stays small.
+// Throws the failure of that number with its usual description. The checks call this function so
+// that their own code stays small enough to be inlined.
 [[noreturn]] void Raise(int number);
 
-// The mode of ignored failures: a statement that fails has no effect, and the next one runs. What
-// is no failure of a statement (the end of the page or of the program, an error of the program)
-// passes through.
+// Runs a statement and ignores its failure: a statement that fails has no effect. Other exceptions,
+// such as the end of the page or an error of the program, are not caught.
 template <class Statement>
 void Ignorar(Statement&& statement) {
   try {
     std::forward<Statement>(statement)();
   } catch (const Failure&) {
-    // Without effect, and without a word.
+    // The next statement runs.
   }
 }
 

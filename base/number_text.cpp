@@ -14,7 +14,7 @@ std::string NumberText(double value) {
   std::ostringstream out;
   out.imbue(std::locale::classic());
   out.precision(std::numeric_limits<double>::digits10);
-  // Adding zero makes a negative zero a plain one.
+  // Adding 0 turns a negative zero into 0, so no "-0" is shown.
   out << std::uppercase << value + 0.0;
   std::string text = out.str();
   std::replace(text.begin(), text.end(), '.', ',');
@@ -36,7 +36,7 @@ std::string TwoDigits(int number) { return (number < 10 ? "0" : "") + std::to_st
 double Round(double value, int decimals) {
   const double scale = std::pow(10.0, decimals);
   const double scaled = value * scale;
-  // Beyond this a real has no decimals left to lose.
+  // From here on a real has no decimals, and the scaled value may be an infinity.
   constexpr double LastWithDecimals = 4503599627370496.0;  // 2^52
   if (!(std::abs(scaled) < LastWithDecimals)) {
     return value;
@@ -50,7 +50,7 @@ double NumberFrom(std::string_view text) {
     Raise(TypeMismatch);
   }
   std::string digits(text.substr(first, text.find_last_not_of(' ') - first + 1));
-  // A point would be taken for the decimal mark below.
+  // The stream below would read a point as the decimal mark, and also words like "inf".
   if (digits.find_first_not_of("0123456789,+-eE") != std::string::npos) {
     Raise(TypeMismatch);
   }

@@ -11,8 +11,8 @@ namespace clinorama {
 
 namespace {
 
-// The one place where failures of the engine become errors of the interpreter. What a user can do
-// something about keeps its number; anything else means that the expression is no good.
+// Turns a failure into the error that callers see. The interpreter's own failures and those of the
+// arithmetic keep their number; every other one becomes 1103.
 [[noreturn]] void RaiseError(const base::Failure& failure) {
   const int number = failure.Number();
   const bool own = number >= base::WrongParentheses;
@@ -26,50 +26,49 @@ namespace {
 }  // namespace
 
 void clsEquation::Graus(bool emGraus) {
-  Alterada_ = Alterada_ || emGraus != EmGraus_;
-  EmGraus_ = emGraus;
+  alterada_ = alterada_ || emGraus != emGraus_;
+  emGraus_ = emGraus;
 }
 
 void clsEquation::VarClear() {
-  Variaveis_.Clear();
-  Alterada_ = true;
+  variaveis_.Clear();
+  alterada_ = true;
 }
 
 void clsEquation::Equation(std::string expressao) {
-  Analisada_ = false;
-  Alterada_ = true;
-  Expressao_ = engine::LowerCase(std::move(expressao));
+  analisada_ = false;
+  alterada_ = true;
+  expressao_ = engine::LowerCase(std::move(expressao));
 }
 
 void clsEquation::VarRemove(std::string_view name) {
-  Variaveis_.Remove(name);
-  Alterada_ = true;
+  variaveis_.Remove(name);
+  alterada_ = true;
 }
 
 void clsEquation::Solve() {
   try {
-    if (!Analisada_) {
+    if (!analisada_) {
       Interpretar();
     }
-    ErroDominio_ = false;
-    Resultado_ = ForaDoDominio;
+    erroDominio_ = false;
+    resultado_ = ForaDoDominio;
     const double value = evaluator_.Evaluate();
-    ErroDominio_ = !base::Finite(value);
-    Resultado_ = ErroDominio_ ? Module1::CodigoDominio : value;
-    Alterada_ = false;
+    erroDominio_ = !base::Finite(value);
+    resultado_ = erroDominio_ ? Module1::CodigoDominio : value;
+    alterada_ = false;
   } catch (const base::Failure& failure) {
     RaiseError(failure);
   }
 }
 
-// Becomes valid only at its very end, so a text that is rejected here is rejected by every
-// `Solve`.
+// Takes the text apart. The flag is set last, so a text that fails here fails at every `Solve`.
 void clsEquation::Interpretar() {
-  evaluator_.Prepare(engine::Interpretar(Expressao_), Variaveis_);
-  if (evaluator_.Empty()) {  // no text was ever set, or one without a single token
+  evaluator_.Prepare(engine::Interpretar(expressao_), variaveis_);
+  if (evaluator_.Empty()) {  // no text was set, or the text has no token
     base::Raise(base::IndexOutOfRange);
   }
-  Analisada_ = true;
+  analisada_ = true;
 }
 
 }  // namespace clinorama

@@ -13,14 +13,14 @@ using namespace base;
 
 namespace {
 
-// The constants of the language have exactly these digits, which a user sees: tg(pi/2) comes out
-// large and finite, and e^x is not quite exp(x).
+// The constants of the language have exactly these digits. The user sees it: tg(pi/2) is large and
+// finite, and e^x differs a little from exp(x).
 constexpr double Pi = 3.14159265358979;
 constexpr double E = 2.718281828;
 
 constexpr const char* RandomName = "rnd";
 
-// What the operator "/" leaves in `CodigoDominio`.
+// What the operator "/" writes to `CodigoDominio`.
 constexpr std::int16_t ZeroDivisor = 18;
 constexpr std::int16_t NonZeroDivisor = 66;
 
@@ -46,40 +46,40 @@ double Calculate(TokenKind kind, double l, double r) {
 }  // namespace
 
 void Evaluator::Prepare(Analysis analysis, Variables& variables) {
-  simbolos_ = std::move(analysis.simbolos);
-  ordemAvaliacao_ = std::move(analysis.ordemAvaliacao);
+  simbolos_ = std::move(analysis.Simbolos);
+  ordemAvaliacao_ = std::move(analysis.OrdemAvaliacao);
   program_.Clear();
   const std::size_t size = simbolos_.size() + 1;
   meanings_.assign(size, {});
   constants_.assign(size, 0);
   results_.assign(size, 0);
   initial_.assign(size, {});
-  initial_[0].failure = IndexOutOfRange;
+  initial_[0].FailureNumber = IndexOutOfRange;
 
   std::int32_t previous = 0;
   for (std::size_t p = 1; p < size; ++p) {
     const auto& [kind, text] = simbolos_[p - 1];
     if (kind == TokenKind::Comma) {
-      continue;  // a null cell from the start
+      continue;  // its cell is null from the start
     }
     const NumeralReading reading = ReadNumeral(text);
-    constants_[p] = reading.value;
+    constants_[p] = reading.Value;
     Cell& cell = initial_[p];
-    cell = {.previous = previous, .failure = reading.failure, .number = &constants_[p]};
+    cell = {.Previous = previous, .FailureNumber = reading.FailureNumber, .Number = &constants_[p]};
     if (kind == TokenKind::Function) {
-      meanings_[p].function = FindFunction(text);
+      meanings_[p].Function = FindFunction(text);
     } else if (text == "pi" || text == "e") {
       constants_[p] = text == "e" ? E : Pi;
     } else if (text == RandomName) {
-      cell.number = &results_[p];
+      cell.Number = &results_[p];
     } else if (kind == TokenKind::Name) {
-      meanings_[p].variable = &variables.At(text);
-      cell.number = &meanings_[p].variable->value;
+      meanings_[p].Variable = &variables.At(text);
+      cell.Number = &meanings_[p].Variable->Value;
     }
-    initial_[static_cast<std::size_t>(previous)].next = static_cast<std::int32_t>(p);
+    initial_[static_cast<std::size_t>(previous)].Next = static_cast<std::int32_t>(p);
     previous = static_cast<std::int32_t>(p);
   }
-  initial_[0].previous = previous;
+  initial_[0].Previous = previous;
 }
 
 double Evaluator::Walk() {
@@ -89,7 +89,7 @@ double Evaluator::Walk() {
   code_ = 0;
   for (std::size_t i = 0; i < ordemAvaliacao_.size(); ++i) {
     const std::int32_t p = ordemAvaliacao_[i];
-    const TokenKind kind = SimboloAt(p).kind;
+    const TokenKind kind = SimboloAt(p).Kind;
     const bool opens = kind == TokenKind::Open || kind == TokenKind::Function;
     if (!Visit(p, opens ? ordemAvaliacao_[++i] : 0)) {
       return NotANumber;
@@ -98,10 +98,10 @@ double Evaluator::Walk() {
   return Conclude();
 }
 
-// Visits the token at p; q is the position of the ")" of one that opens. False if the point is
-// outside the domain.
+// Visits the token at p. If it opens a pair of parentheses, q is the position of its ")". False if
+// the point is outside the domain.
 bool Evaluator::Visit(std::int32_t p, std::int32_t q) {
-  const TokenKind kind = SimboloAt(p).kind;
+  const TokenKind kind = SimboloAt(p).Kind;
   switch (kind) {
     case TokenKind::Negate: {
       const std::int32_t r = ProximoValor(p);
@@ -129,21 +129,21 @@ bool Evaluator::Visit(std::int32_t p, std::int32_t q) {
 }
 
 void Evaluator::Name(std::int32_t p) {
-  const Variable* const variable = meanings_[static_cast<std::size_t>(p)].variable;
+  const Variable* const variable = meanings_[static_cast<std::size_t>(p)].Variable;
   if (variable != nullptr) {
-    if (!variable->defined) {
+    if (!variable->Defined) {
       RaiseAbout(UndefinedVariable, p);
     }
-    Guarded(variable->value);
-  } else if (SimboloAt(p).text == RandomName) {
+    Guarded(variable->Value);
+  } else if (SimboloAt(p).Text == RandomName) {
     repeatable_ = false;
     Receive(p, NextRandom());
   }
-  At(p).failure = 0;
+  At(p).FailureNumber = 0;
 }
 
-// The real division reads its divisor first of all, and tells what it found even where the left
-// operand is missing; the integer ones look first whether both operands are there.
+// The real division reads its divisor and writes the code before it looks for a missing operand.
+// The integer divisions look for a missing operand first.
 bool Evaluator::Division(TokenKind kind, std::int32_t p) {
   const std::int32_t l = ValorAnterior(p);
   const std::int32_t r = ProximoValor(p);
@@ -155,13 +155,13 @@ bool Evaluator::Division(TokenKind kind, std::int32_t p) {
   }
   if (Divides(*Read(r))) {
     Combine(kind, p);
-  } else {  // the operator and both operands stay, whatever is in the left cell
+  } else {  // the operator and its operands stay in their cells
     repeatable_ = false;
   }
   return true;
 }
 
-// The result of a binary operation takes the left cell.
+// Carries a binary operation out. Its result goes to the left cell.
 void Evaluator::Combine(TokenKind kind, std::int32_t p) {
   const std::int32_t l = ValorAnterior(p);
   const std::int32_t r = ProximoValor(p);
@@ -172,15 +172,15 @@ void Evaluator::Combine(TokenKind kind, std::int32_t p) {
   Null(p);
 }
 
-// Takes the first cell inside as it stands, be it a number or an operator that was left there.
+// Moves the first cell inside out as it is. It may hold a number or an operator that was left.
 void Evaluator::Parentheses(std::int32_t p, std::int32_t q) {
   const std::int32_t r = ProximoValor(p);
   if (r < q) {
-    At(p).number = At(r).number;
-    At(p).failure = At(r).failure;
+    At(p).Number = At(r).Number;
+    At(p).FailureNumber = At(r).FailureNumber;
     Null(r);
-  } else {  // nothing inside is 0, which is what the number of "(" is from the start
-    At(p).failure = 0;
+  } else {  // nothing inside gives 0, the number that "(" has from the start
+    At(p).FailureNumber = 0;
   }
   Null(q);
 }
@@ -188,44 +188,44 @@ void Evaluator::Parentheses(std::int32_t p, std::int32_t q) {
 bool Evaluator::Call(std::int32_t p, std::int32_t q) {
   const std::int32_t first = ProximoValor(p);
   const std::int32_t last = ValorAnterior(q);
-  // An empty call is told before the name is looked at, and so is an argument that isn't a number.
+  // A call without an argument, or with one that is no number, fails before the name is looked at.
   if (first >= q) {
     RaiseAbout(NoArgument, p);
   }
   const double* const a = Read(first);
   const double* const b = Read(last);
-  const Function* const function = meanings_[static_cast<std::size_t>(p)].function;
+  const LibraryFunction* const function = meanings_[static_cast<std::size_t>(p)].Function;
   if (function == nullptr) {
     RaiseAbout(UndefinedFunction, p);
   }
-  const Returned returned = function->formula(*a, *b);
-  if (returned.guard != Guard::Passed) {
-    if (returned.guard == Guard::Failed) {
-      Note(function->failureCode);
+  const Returned returned = function->Compute(*a, *b);
+  if (returned.Guard != GuardResult::Passed) {
+    if (returned.Guard == GuardResult::Failed) {
+      Note(function->FailureCode);
     }
     return false;
   }
-  if (function->successCode != 0) {
-    Note(function->successCode);
+  if (function->SuccessCode != 0) {
+    Note(function->SuccessCode);
   }
-  repeatable_ = repeatable_ && !function->random;
-  program_.Add(TokenKind::Function, a, b, Receive(p, returned.value), function->formula);
-  Null(last);  // which may be the first too; what stands between them is left behind
+  repeatable_ = repeatable_ && !function->Random;
+  program_.Add(TokenKind::Function, a, b, Receive(p, returned.Value), function->Compute);
+  Null(last);  // it may be the first cell too; the cells between the two are not used up
   Null(first);
   Null(q);
   return true;
 }
 
-// The value is the first cell left, whatever stands behind it. What does stand there may have been
-// calculated too, and the programme has to see that it can be.
+// The value is the first cell left, whatever stands behind it. Numbers behind it were calculated
+// too, and the programme must notice where one of them fails.
 double Evaluator::Conclude() {
   std::int32_t cell = ProximoValor(0);
   const double* const value = Read(cell);
   if (repeatable_) {
     program_.Result(value, results_.data());
     while ((cell = ProximoValor(cell)) != 0) {
-      if (At(cell).failure == 0) {
-        program_.Check(At(cell).number);
+      if (At(cell).FailureNumber == 0) {
+        program_.Check(At(cell).Number);
       }
     }
     program_.Finish(code_);
@@ -233,35 +233,38 @@ double Evaluator::Conclude() {
   return *value;
 }
 
-// Where the number of the cell is; fails if it holds none.
+// Where the number of the cell is; fails if the cell holds none.
 const double* Evaluator::Read(std::int32_t cell) {
-  if (At(cell).failure != 0) {
-    Raise(At(cell).failure);
+  if (At(cell).FailureNumber != 0) {
+    Raise(At(cell).FailureNumber);
   }
-  return At(cell).number;
+  return At(cell).Number;
 }
 
-// The cell holds that result from now on.
+// Puts a result into the cell.
 double* Evaluator::Receive(std::int32_t cell, double value) {
   double* const result = &results_[static_cast<std::size_t>(cell)];
   *result = value;
-  At(cell).number = result;
-  At(cell).failure = 0;
+  At(cell).Number = result;
+  At(cell).FailureNumber = 0;
   return result;
 }
 
-// Its neighbours become neighbours of each other. Cell 0 is on both ends of the row.
+// Joins the neighbours of the cell to each other. Cell 0 is the neighbour of the first and of the
+// last cell.
 void Evaluator::Null(std::int32_t cell) {
   const Cell gone = At(cell);
-  At(gone.previous).next = gone.next;
-  At(gone.next).previous = gone.previous;
+  At(gone.Previous).Next = gone.Next;
+  At(gone.Next).Previous = gone.Previous;
 }
 
+// Writes the code of a guarded operation.
 void Evaluator::Note(std::int16_t code) {
   Module1::CodigoDominio = code;
   code_ = code;
 }
 
+// Raises a failure whose description ends with the token at p.
 void Evaluator::RaiseAbout(int number, std::int32_t p) const {
   const auto& [kind, text] = SimboloAt(p);
   const char* const end = kind == TokenKind::Function ? ")" : "";

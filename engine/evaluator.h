@@ -12,23 +12,24 @@
 namespace clinorama::engine {
 
 // Evaluates one expression for many values of its variables. There is no tree: a walk visits the
-// tokens in their order, each acts on the cells beside it, and cells that were used up are passed
-// over from then on. A walk that comes to a value leaves its calculations as a programme, which is
-// tried first at the next evaluation. That gives the same values, as the cells that a visit meets
-// depend on the text alone; but for divisors: one that is too small leaves its operator in its
-// cell, and what follows goes another way. Then there is no programme, and neither is there one for
-// random numbers, as a programme that is given up has drawn some already.
+// tokens in order, and each of them acts on the cells beside it. Cells that are used up are null.
+//
+// A walk that reaches a value records its calculations as a programme, and the next evaluation runs
+// that programme first. It gives the same value, as the cells that a visit finds depend on the text
+// alone. There are two exceptions, and they leave no programme. A divisor that is too small leaves
+// its operator in the cell, so later visits find other cells. With random numbers a programme that
+// does not reach its end would have drawn some numbers already.
 class Evaluator {
  public:
-  // Takes a new expression, whose names get their places in `variables`.
+  // Takes a new expression. The values of its names are kept in `variables`.
   void Prepare(Analysis analysis, Variables& variables);
 
-  // Whether there is anything to evaluate.
+  // Whether the expression has no token.
   bool Empty() const { return simbolos_.empty(); }
 
-  // The value for what the variables are now; not a number if the point is outside the domain.
-  // Writes `CodigoDominio`; fails with the failures of the arithmetic, of names and of cells that
-  // aren't numbers.
+  // The value for the present values of the variables; a not-a-number if the point is outside the
+  // domain. Writes `CodigoDominio`. Raises a `base::Failure` for an undefined name, a cell that is
+  // no number, or a calculation that fails.
   double Evaluate() {
     const double value = program_.Run();
     return base::Finite(value) ? value : Walk();
@@ -37,24 +38,24 @@ class Evaluator {
  private:
   // A cell of the working array. Cell 0 stands for every missing one.
   struct Cell {
-    std::int32_t previous = 0;       // the nearest cell before that isn't null, 0 if there is none
-    std::int32_t next = 0;           // the nearest cell behind that isn't null, 0 if there is none
-    int failure = 0;                 // what reading it as a number fails with, 0 if it reads well
-    const double* number = nullptr;  // where its number is, once it reads well
+    std::int32_t Previous = 0;       // the nearest cell before that is not null, or 0
+    std::int32_t Next = 0;           // the nearest cell behind that is not null, or 0
+    int FailureNumber = 0;           // of reading it as a number; 0 if it is one
+    const double* Number = nullptr;  // where its number is, if it is one
   };
 
-  // What a token stands for, if it is a name.
+  // What the name of a token stands for.
   struct Meaning {
-    const Function* function = nullptr;  // null also if the library does not know it
-    const Variable* variable = nullptr;
+    const LibraryFunction* Function = nullptr;  // null if the library has none of that name
+    const engine::Variable* Variable = nullptr;
   };
 
   Cell& At(std::int32_t cell) { return celulas_[static_cast<std::size_t>(cell)]; }
   const Simbolo& SimboloAt(std::int32_t p) const {
     return simbolos_[static_cast<std::size_t>(p) - 1];
   }
-  std::int32_t ProximoValor(std::int32_t p) { return At(p).next; }
-  std::int32_t ValorAnterior(std::int32_t p) { return At(p).previous; }
+  std::int32_t ProximoValor(std::int32_t p) { return At(p).Next; }
+  std::int32_t ValorAnterior(std::int32_t p) { return At(p).Previous; }
 
   double Walk();
   bool Visit(std::int32_t p, std::int32_t q);
@@ -81,8 +82,8 @@ class Evaluator {
   std::vector<Cell> celulas_;
 
   Program program_;
-  bool repeatable_ = false;  // the walk may become a programme
-  std::int16_t code_ = 0;    // that the walk has left in `CodigoDominio`, 0 for none
+  bool repeatable_ = false;  // the walk may leave a programme
+  std::int16_t code_ = 0;    // the last code that the walk has written, 0 if it wrote none
 };
 
 }  // namespace clinorama::engine

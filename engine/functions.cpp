@@ -15,7 +15,7 @@ using namespace base;
 namespace {
 
 std::minstd_rand& Generator() {
-  constexpr std::minstd_rand::result_type Start = 20011;  // a small one begins with numbers near 0
+  constexpr std::minstd_rand::result_type Start = 20011;  // a small seed begins with numbers near 0
   static std::minstd_rand generator(Start);
   return generator;
 }
@@ -23,7 +23,7 @@ std::minstd_rand& Generator() {
 void SeedFromClock() {
   const auto ticks = std::chrono::steady_clock::now().time_since_epoch().count();
   Generator().seed(static_cast<std::minstd_rand::result_type>(ticks));
-  // Neighbouring ticks give neighbouring first numbers; a few steps on they are far apart.
+  // Seeds that are close give first numbers that are close. After a few steps they are far apart.
   constexpr unsigned long long Steps = 4;
   Generator().discard(Steps);
 }
@@ -33,19 +33,19 @@ double FreshRandom() {
   return NextRandom();
 }
 
-constexpr Returned Outside = Guard::Failed;
-constexpr Returned OutsideSilently = Guard::FailedSilently;
+constexpr Returned Outside = GuardResult::Failed;
+constexpr Returned OutsideSilently = GuardResult::FailedSilently;
 
-// 1 - a * a, written as the inverse functions need it.
+// 1 - a * a, in the order of steps that the inverse functions have.
 double OneMinusSquare(double a) { return Add(Multiply(-a, a), 1); }
 double SquareMinusOne(double a) { return Subtract(Multiply(a, a), 1); }
 double SquarePlusOne(double a) { return Add(Multiply(a, a), 1); }
 
-// Half a turn is 4 * atan(1) throughout; the inverse functions shift by a quarter.
+// A quarter of a turn in radians, by which the inverse functions are shifted.
 double QuarterTurn() { return 2 * std::atan(1.0); }
 
-// exp(a) - exp(-a) and exp(a) + exp(-a): twice the hyperbolic sine and cosine, and the stuff of
-// the four others. Both fail where one of the exponentials does.
+// exp(a) - exp(-a) and exp(a) + exp(-a), of which all hyperbolic functions are made. Both fail
+// where one of the exponentials overflows.
 double TwiceSinh(double a) { return Subtract(Exp(a), Exp(-a)); }
 double TwiceCosh(double a) { return Add(Exp(a), Exp(-a)); }
 
@@ -68,7 +68,7 @@ Returned Graus(double a, double) { return Multiply(a, 57.2957795131); }
 Returned Rad(double a, double) { return Multiply(a, 0.01745329251995); }
 
 Returned Rnd(double, double) {
-  // Both steps are of 32-bit reals, and the argument is only there to be read.
+  // The number drawn and the result are both 32-bit reals. The argument has no effect.
   return static_cast<double>(static_cast<float>(FreshRandom() * 20 - 10));
 }
 Returned Random(double a, double b) { return Add(Multiply(FreshRandom(), Subtract(b, a)), a); }
@@ -104,7 +104,7 @@ Returned Arccosec(double a, double) {
 Returned Senh(double a, double) { return TwiceSinh(a) / 2; }
 Returned Cosh(double a, double) { return TwiceCosh(a) / 2; }
 Returned Tgh(double a, double) {
-  // The exponentials are taken once: they are what the time goes into.
+  // Each exponential is computed once, as it takes most of the time.
   const double up = Exp(a);
   const double down = Exp(-a);
   return Divide(Subtract(up, down), Add(up, down));
@@ -121,7 +121,7 @@ Returned Cotgh(double a, double) {
 }
 
 Returned Arcsenh(double a, double) {
-  // Unguarded: far to the left the sum comes out as 0, and its logarithm is a failure.
+  // There is no guard: for a very negative `a` the sum is rounded to 0, whose logarithm fails.
   return Log(Add(a, Sqrt(SquarePlusOne(a))));
 }
 Returned Arccosh(double a, double) {
@@ -164,8 +164,8 @@ Returned Arccotgh(double a, double) {
   return t <= 0 ? Outside : Log(t) / 2;
 }
 
-// Names that share a formula may still differ in their codes.
-constexpr Function Library[] = {
+// Two names of one formula may have different codes.
+constexpr LibraryFunction Library[] = {
     {"abs(", Abs},
     {"arctg(", Arctg},
     {"atn(", Arctg},
@@ -226,14 +226,14 @@ constexpr Function Library[] = {
 
 }  // namespace
 
-const Function* FindFunction(std::string_view name) {
+const LibraryFunction* FindFunction(std::string_view name) {
   const auto* found = std::find_if(std::begin(Library), std::end(Library),
-                                   [name](const Function& row) { return row.name == name; });
+                                   [name](const LibraryFunction& row) { return row.Name == name; });
   return found == std::end(Library) ? nullptr : found;
 }
 
 double NextRandom() {
-  // The generator gives 31 bits, from 1 to 2^31 - 2; the upper 24 of them are kept.
+  // The generator gives numbers of 31 bits, from 1 to 2^31 - 2. The upper 24 bits are kept.
   constexpr double Scale = 1 << 24;
   return static_cast<double>((Generator()() - 1) >> 7) / Scale;
 }

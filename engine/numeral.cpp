@@ -27,8 +27,8 @@ NumeralReading ReadNumeral(std::string_view text) {
   if (digits.empty()) {
     return {0, TypeMismatch};
   }
-  // The decimal mark that strtod knows is the locale's. A whole number with a negative power of ten
-  // has no mark, so it reads alike everywhere, and still is rounded only once.
+  // `strtod` takes the decimal mark from the locale. A whole number with a negative power of ten
+  // has no mark, so it is read the same in every locale, and it is rounded only once.
   const std::string plain = digits + "e-" + std::to_string(decimals);
   const double value = std::strtod(plain.c_str(), nullptr);
   if (value > std::numeric_limits<double>::max()) {

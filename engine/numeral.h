@@ -4,16 +4,15 @@
 
 namespace clinorama::engine {
 
-// What a cell that holds a text gives when it is read as a number: a value, or the number of the
-// failure that reading it is.
+// What reading a text as a number gives: a value, or the number of a failure.
 struct NumeralReading {
-  double value;
-  int failure;  // 0 if the text is a numeral
+  double Value;
+  int FailureNumber;  // 0 if the text is a numeral
 };
 
-// Reads digits with at most one comma, which may stand first or last. The value is the correctly
-// rounded one whatever the locale; one that is too large is an overflow, any other text a type
-// mismatch.
+// Reads digits with at most one comma, which may stand first or last. The value is rounded
+// correctly in every locale. A value that is too large is an `Overflow`, any other text a
+// `TypeMismatch`.
 NumeralReading ReadNumeral(std::string_view text);
 
 }  // namespace clinorama::engine

@@ -19,8 +19,8 @@ double Quotient(const Step&, double l, double r) {
   return Divides(r) && Finite(r) ? l / r : NotANumber;
 }
 
-// These two fail by themselves: an operand that failed is no integer, and a divisor that is too
-// small rounds to 0.
+// These two need no test of their own: an operand that is not finite cannot be rounded, and a
+// divisor that is too small rounds to 0, so the calculation fails.
 double WholeQuotient(const Step&, double l, double r) { return IntegerQuotient(l, r); }
 double WholeRemainder(const Step&, double l, double r) { return IntegerRemainder(l, r); }
 
@@ -32,18 +32,18 @@ double Called(const Step& step, double l, double r) {
   if (!Finite(l) || !Finite(r)) {
     return NotANumber;
   }
-  const Returned returned = step.formula(l, r);
-  return returned.guard == Guard::Passed ? returned.value : NotANumber;
+  const Returned returned = step.Compute(l, r);
+  return returned.Guard == GuardResult::Passed ? returned.Value : NotANumber;
 }
 
-// Most operands are the result of the step before. That one comes in a register; it is put into
-// memory only where the next step begins with other operands.
+// Most operands are the result of the step before, which is passed in a register. It is stored in
+// memory only where the next step has other operands.
 template <double (*Calculate)(const Step&, double, double), bool LeftIsValue, bool RightIsValue>
 double Carry(const Step& step, double value) {
   if constexpr (!LeftIsValue && !RightIsValue) {
-    *step.kept = value;
+    *step.Kept = value;
   }
-  return Calculate(step, LeftIsValue ? value : *step.left, RightIsValue ? value : *step.right);
+  return Calculate(step, LeftIsValue ? value : *step.Left, RightIsValue ? value : *step.Right);
 }
 
 template <double (*Calculate)(const Step&, double, double)>

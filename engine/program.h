@@ -11,61 +11,59 @@
 
 namespace clinorama::engine {
 
-// Whether one may divide by that number: "/", "\" and "%" leave a smaller divisor alone.
+// Whether "/", "\" and "%" divide by that number. They leave a smaller one undivided.
 inline bool Divides(double divisor) {
   constexpr double SmallestDivisor = 0.000001;
   return std::fabs(divisor) > SmallestDivisor;
 }
 
-// A calculation with its operands found.
+// One calculation and the places of its operands.
 struct Step {
-  // Gives the result; `value` is the result of the step before.
+  // Returns the result; `value` is the result of the step before.
   using Routine = double (*)(const Step& step, double value);
 
-  Routine routine;
-  const double* left;
-  const double* right;
-  double* kept;     // where `value` goes if this step does not use it
-  Formula formula;  // of a function
+  Routine Run;
+  const double* Left;
+  const double* Right;
+  double* Kept;     // where `value` is stored if this step does not use it
+  Formula Compute;  // of a function
 };
 
-// The calculations of one walk over an expression, kept so that the next values of its variables
-// need no walk: a plain list of steps, which a loop carries out. It knows nothing of cells and
-// looks at no text.
+// The calculations of one walk over an expression, as a list of steps that a loop runs. With it the
+// next values of the variables need no walk. It has no cells and reads no text.
 //
-// A step that cannot be done gives an infinity or a not-a-number. Sums, differences and products
-// hand that on by themselves, and all other steps look at their operands. So whatever goes wrong
-// (a failure, a guard, a divisor that is too small, a variable without a value) shows in the last
-// value, and there alone it is looked for. What it was only a walk can tell.
+// A step that fails gives an infinity or a not-a-number. Sums, differences and products of such a
+// number are infinite or not-a-number again, and all other steps test their operands. So every
+// failure (also of a guard, a divisor that is too small, a variable without a value) is seen in the
+// last value, which alone is tested. A walk then finds out what has failed.
 class Program {
  public:
   // Forgets all steps.
   void Clear();
 
-  // Records the calculation of an operator or a function. `left` and `right`, which are the same
-  // where there is one operand, and `target` stay where they are as long as the steps do. What an
-  // earlier step has put into its target is read by one later step at most.
+  // Records the calculation of an operator or a function. `left` and `right`, the same for a single
+  // operand, and `target` must outlive the steps. A target is read by one later step at most.
   void Add(TokenKind kind, const double* left, const double* right, double* target,
            Formula formula = nullptr);
 
-  // Records where the value of the expression is; `spare` is a place that nothing else uses.
+  // Records where the value of the expression is; `spare` is a place that no step uses.
   void Result(const double* number, double* spare);
-  // Records a number beside the value that must not have failed either. Comes after `Result`.
+  // Records a number that is not the value, but must not have failed. Is called after `Result`.
   void Check(const double* number);
 
-  // Ends the recording: only now there is something to run. A run leaves `code` in `CodigoDominio`,
-  // 0 for nothing.
+  // Ends the recording; before, there are no steps to run. A run writes `code` to `CodigoDominio`
+  // unless it is 0.
   void Finish(std::int16_t code);
 
-  // The value of the expression. Where it takes a walk to tell, the result is not finite, and
-  // nothing has happened.
+  // The value of the expression. If a step has failed, or there are none, it is not finite and
+  // nothing was written.
   double Run() const {
     double value = base::NotANumber;
     try {
-      // A step takes so little time that the loop's own matters.
+      // A step is so short that the loop itself takes a good part of the time.
 #pragma GCC unroll 4
       for (const Step& step : steps_) {
-        value = step.routine(step, value);
+        value = step.Run(step, value);
       }
     } catch (const base::Failure&) {
       return base::NotANumber;

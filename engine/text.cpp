@@ -10,7 +10,7 @@ std::uint32_t Byte(std::string_view text, std::size_t at) {
   return static_cast<unsigned char>(text[at]);
 }
 
-// The code point that `length` bytes of well-formed length and continuation spell.
+// The code point of `length` bytes, whose lead and continuation bytes are in order.
 std::uint32_t CodePoint(std::string_view text, std::size_t at, std::size_t length) {
   std::uint32_t code = Byte(text, at) & (0xFFU >> (length + 1));
   for (std::size_t i = 1; i < length; ++i) {
@@ -19,11 +19,12 @@ std::uint32_t CodePoint(std::string_view text, std::size_t at, std::size_t lengt
   return code;
 }
 
-// Lower case among the accented letters that two bytes hold: Latin-1 and Latin Extended-A. In the
-// latter capitals and small letters alternate, but which of them is even changes on the way.
+// The small letter of a code point of two bytes, for Latin-1 and Latin Extended-A. In Latin
+// Extended-A capitals and small letters alternate: in some ranges the capitals are even, in others
+// odd.
 std::uint32_t LowerAccented(std::uint32_t code) {
-  constexpr std::uint32_t MultiplicationSign = 0xD7;  // sits among the capitals of Latin-1
-  constexpr std::uint32_t DottedI = 0x130;            // its small letter is the plain i
+  constexpr std::uint32_t MultiplicationSign = 0xD7;  // stands among the capitals of Latin-1
+  constexpr std::uint32_t DottedI = 0x130;            // its small letter is the i of one byte
   constexpr std::uint32_t CapitalYDiaeresis = 0x178;  // its small letter is in Latin-1
   if (code == MultiplicationSign || code == DottedI) {
     return code;
@@ -58,8 +59,7 @@ std::size_t CharacterLength(std::string_view text, std::size_t at) {
       return 1;
     }
   }
-  // Longer spellings of short codes, surrogates and what lies past the last plane are no
-  // characters.
+  // Codes that need fewer bytes, surrogates and codes above the last plane are no characters.
   const std::uint32_t code = CodePoint(text, at, length);
   const bool overlong = (length == 3 && code < 0x800) || (length == 4 && code < 0x10000);
   const bool surrogate = code >= 0xD800 && code <= 0xDFFF;

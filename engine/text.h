@@ -6,12 +6,11 @@
 
 namespace clinorama::engine {
 
-// Bytes that the character at `text[at]` takes: a code point in UTF-8, or a single byte where the
-// bytes form none.
+// The number of bytes of the UTF-8 character at `text[at]`; 1 where the bytes are no character.
 std::size_t CharacterLength(std::string_view text, std::size_t at);
 
-// The text with its ASCII and its accented Latin letters in lower case, byte for byte as long as
-// before. Bytes that form no character stay as they are.
+// The text with its ASCII and accented Latin letters in lower case. It keeps its length in bytes;
+// bytes that are no character stay as they are.
 std::string LowerCase(std::string text);
 
 }  // namespace clinorama::engine

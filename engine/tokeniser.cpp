@@ -14,11 +14,11 @@ using namespace base;
 
 namespace {
 
-// What parentheses add to the priority of all that is inside them: one more than the highest rank
-// below, so that the ranks of two depths never mix.
+// What a pair of parentheses adds to the priority of all tokens inside. No rank is higher, so a
+// token inside always comes before one outside.
 constexpr int LevelStep = 7;
 
-// Rank of a kind within its depth. `^` binds tighter than the unary minus, which binds tighter
+// The rank of a kind within its depth. `^` binds tighter than the unary minus, which binds tighter
 // than `*`, `/` and `\`; `%` stands between those and `+`, `-`.
 constexpr int Rank(TokenKind kind) {
   switch (kind) {
@@ -48,7 +48,17 @@ constexpr int Rank(TokenKind kind) {
   return 0;
 }
 
-// A counter of 16 bits: leaving its range is the failure that a longer or deeper text ends in.
+// The binary operators.
+constexpr struct {
+  char Character;
+  TokenKind Kind;
+} Operators[] = {
+    {'+', TokenKind::Add},    {'-', TokenKind::Subtract},       {'*', TokenKind::Multiply},
+    {'/', TokenKind::Divide}, {'\\', TokenKind::IntegerDivide}, {'%', TokenKind::Remainder},
+    {'^', TokenKind::Power},
+};
+
+// A counter of 16 bits. A text that is too long or too deep makes it overflow.
 int Limited(int count) {
   if (count > std::numeric_limits<std::int16_t>::max() ||
       count < std::numeric_limits<std::int16_t>::min()) {
@@ -65,7 +75,7 @@ class Scanner {
     for (std::size_t at = 0; at < expressao.size();) {
       const std::size_t length = CharacterLength(expressao, at);
       position = Limited(position + 1);
-      if (length == 1) {  // every other character is skipped, so what it separates is joined
+      if (length == 1) {  // characters of more bytes are skipped
         Character(expressao[at]);
       }
       at += length;
@@ -78,7 +88,7 @@ class Scanner {
   }
 
  private:
-  enum class Kind { None, Name, Numeral };  // of what is being collected
+  enum class Kind { None, Name, Numeral };  // of the token that is being collected
 
   void Character(char c) {
     if ((c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_') {
@@ -104,47 +114,25 @@ class Scanner {
     if (tipo_ == Kind::None) {
       tipo_ = Kind::Numeral;
     }
-    texto_ += c;  // behind a name it belongs to the name, a comma too
+    texto_ += c;  // behind a name it belongs to the name, and so does a comma
     depoisDeValor_ = true;
   }
 
   void Sign(char c) {
-    switch (c) {
-      case '(':
-        Opening();
-        break;
-      case ')':
-        Flush();
-        Store(TokenKind::Close, ")");
-        nivel_ = Limited(nivel_ - LevelStep);
-        depoisDeValor_ = true;
-        break;
-      case ',':
-        Operator(TokenKind::Comma, "");
-        break;
-      case '+':
-        Operator(TokenKind::Add, "+");
-        break;
-      case '-':
-        depoisDeValor_ ? Operator(TokenKind::Subtract, "-") : Operator(TokenKind::Negate, "~");
-        break;
-      case '*':
-        Operator(TokenKind::Multiply, "*");
-        break;
-      case '/':
-        Operator(TokenKind::Divide, "/");
-        break;
-      case '\\':
-        Operator(TokenKind::IntegerDivide, "\\");
-        break;
-      case '%':
-        Operator(TokenKind::Remainder, "%");
-        break;
-      case '^':
-        Operator(TokenKind::Power, "^");
-        break;
-      default:
-        break;
+    if (c == '(') {
+      Opening();
+    } else if (c == ')') {
+      Closing();
+    } else if (c == ',') {
+      Operator(TokenKind::Comma, "");
+    } else if (c == '-' && !depoisDeValor_) {
+      Operator(TokenKind::Negate, "~");
+    } else {
+      for (const auto& row : Operators) {
+        if (row.Character == c) {
+          Operator(row.Kind, std::string(1, c));
+        }
+      }
     }
   }
 
@@ -161,16 +149,23 @@ class Scanner {
     }
     depoisDeValor_ = false;
     nivel_ = Limited(nivel_ + LevelStep);
-    Limited(nivel_ + LevelStep);  // the next depth must have a priority, even if nothing uses it
+    Limited(nivel_ + LevelStep);  // the next depth must fit too, even if it is not used
   }
 
-  void Operator(TokenKind kind, const char* text) {
+  void Closing() {
     Flush();
-    Store(kind, text);
+    Store(TokenKind::Close, ")");
+    nivel_ = Limited(nivel_ - LevelStep);
+    depoisDeValor_ = true;
+  }
+
+  void Operator(TokenKind kind, std::string text) {
+    Flush();
+    Store(kind, std::move(text));
     depoisDeValor_ = false;
   }
 
-  // Stores the name or the numeral that is being collected, if there is one.
+  // Stores the name or numeral that is being collected, if there is one.
   void Flush() {
     if (tipo_ != Kind::None) {
       const TokenKind kind = tipo_ == Kind::Name ? TokenKind::Name : TokenKind::Numeral;
@@ -203,10 +198,10 @@ class Scanner {
 
   std::vector<Simbolo> simbolos_;
   std::vector<int> prioridades_;
-  std::string texto_;  // of the token being collected
+  std::string texto_;  // of the token that is being collected
   Kind tipo_ = Kind::None;
-  int nivel_ = 0;  // priority offset of the current depth, below 0 behind a surplus ")"
-  bool depoisDeValor_ = false;  // a value has just ended, so a "-" is binary
+  int nivel_ = 0;               // added to each priority; below 0 behind a surplus ")"
+  bool depoisDeValor_ = false;  // a value stands before, so a "-" is binary
 };
 
 }  // namespace

@@ -7,7 +7,7 @@
 
 namespace clinorama::engine {
 
-// What a token is. The evaluation asks for the kind and never for the text.
+// The kind of a token, by which the evaluation tells what to do.
 enum class TokenKind : std::uint8_t {
   Numeral,
   Comma,
@@ -27,23 +27,22 @@ enum class TokenKind : std::uint8_t {
 
 // One cell of the expression.
 struct Simbolo {
-  TokenKind kind;
-  std::string text;  // as it appears in messages; a function's ends in "(", a comma's is empty
+  TokenKind Kind;
+  std::string Text;  // as shown in messages; of a function with its "(", of a comma empty
 };
 
-// An expression text taken apart. There is no tree: the tokens stay in a row, and the order says
-// which of them acts first on its neighbours.
+// The tokens of an expression in the order of the text, and the order in which they are visited.
 struct Analysis {
-  std::vector<Simbolo> simbolos;
-  // 1-based positions in `simbolos`, the highest priority first and equal ones from left to right.
+  std::vector<Simbolo> Simbolos;
+  // 1-based positions in `Simbolos`, the highest priority first and equal ones from left to right.
   // Numerals, commas and what stands behind a surplus ")" need no visit and are not listed. An
   // opening token is always followed by the ")" that closes it.
-  std::vector<std::int32_t> ordemAvaliacao;
+  std::vector<std::int32_t> OrdemAvaliacao;
 };
 
-// Takes a lower-case text apart. Nothing malformed is rejected here but a wrong count of
-// parentheses (`WrongParentheses`); a text, a depth or a number of tokens that the 16-bit counters
-// cannot hold is an `Overflow`.
+// Takes a text in lower case apart. A wrong count of parentheses is a `WrongParentheses`; a length,
+// a depth or a number of tokens that a 16-bit counter cannot hold is an `Overflow`. Nothing else
+// that is malformed is rejected here.
 Analysis Interpretar(std::string_view expressao);
 
 }  // namespace clinorama::engine

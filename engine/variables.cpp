@@ -13,7 +13,7 @@ void Variables::Remember(std::string_view name) {
 
 double Variables::Read(std::string_view name) const {
   const auto place = variables_.find(LowerCase(std::string(name)));
-  return place != variables_.end() && place->second.defined ? place->second.value : 0;
+  return place != variables_.end() && place->second.Defined ? place->second.Value : 0;
 }
 
 void Variables::Remove(std::string_view name) {

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <initializer_list>
 #include <string>
 
 #include "base/Module1.h"
@@ -9,29 +10,30 @@
 
 namespace clinorama::tests {
 
-// A code that no operation sets: where it is still there afterwards, nothing was written.
+// A code that no operation writes. Where it is still there afterwards, nothing was written.
 constexpr int Untouched = 99;
 
 // What comes of a `Solve`: a value, a point outside the domain, or an error.
 struct Outcome {
-  double value = 0;  // what `Solution` gives
-  int code = Untouched;
-  int error = 0;
-  std::string description;
+  double Value = 0;  // what `Solution` gives
+  int Code = Untouched;
+  std::string Error = "";  // number and description
 };
 
-inline Outcome Value(double value, int code = Untouched) { return {value, code, 0, ""}; }
-inline Outcome Domain(int code = Untouched) { return {1000.0, code, 0, ""}; }
-inline Outcome Error(int number, std::string description, int code = Untouched) {
-  return {0, code, number, std::move(description)};
-}
-inline Outcome Invalid() { return Error(1103, "Expressão inválida"); }
+inline Outcome Value(double value, int code = Untouched) { return {value, code}; }
+inline Outcome Domain(int code = Untouched) { return {1000, code}; }
+inline Outcome Error(const std::string& error) { return {0, Untouched, error}; }
+const Outcome Argument = Error("5 Argumento inválido.");
+const Outcome Overflow = Error("6 Excesso de capacidade.");
+const Outcome ByZero = Error("11 Divisão por zero.");
+const Outcome Unbalanced = Error("1100 Número de parênteses incorrecto.");
+const Outcome Invalid = Error("1103 Expressão inválida");
 
 // A row of a table: the text is evaluated for that `x`.
 struct Case {
-  std::string text;
-  double x;
-  Outcome expected;
+  std::string Text;
+  double X;
+  Outcome Expected;
 };
 
 inline Outcome OutcomeOf(clsEquation& equation) {
@@ -39,35 +41,53 @@ inline Outcome OutcomeOf(clsEquation& equation) {
   Outcome outcome;
   try {
     equation.Solve();
-    outcome.value = equation.Solution();
+    outcome = {equation.Solution(), Module1::CodigoDominio};
   } catch (const ErroInterpretador& error) {
     EXPECT_EQ(error.Source(), "Interpretador");
-    outcome.error = error.Number();
-    outcome.description = error.Description();
+    outcome.Error = std::to_string(error.Number()) + ' ' + error.Description();
   }
-  outcome.code = Module1::CodigoDominio;
   return outcome;
 }
 
-// The first evaluation is a walk, and the second the programme that it left, if it did.
+// Evaluates twice: if the first evaluation is a walk, the second one runs its programme.
 inline void Check(const Case& row, clsEquation& equation) {
-  equation.Var("x", row.x);
+  if (equation.Equation() != row.Text) {
+    equation.Equation(row.Text);
+  }
+  equation.Var("x", row.X);
   for (const char* which : {"first", "second"}) {
-    SCOPED_TRACE("\"" + row.text + "\", x = " + std::to_string(row.x) + ", " + which);
+    SCOPED_TRACE("\"" + row.Text + "\", x = " + std::to_string(row.X) + ", " + which);
     const Outcome outcome = OutcomeOf(equation);
-    EXPECT_EQ(outcome.error, row.expected.error);
-    EXPECT_EQ(outcome.description, row.expected.description);
-    EXPECT_DOUBLE_EQ(outcome.value, row.expected.value);
-    if (row.expected.error == 0) {
-      EXPECT_EQ(outcome.code, row.expected.code);
-    }
+    EXPECT_EQ(outcome.Error, row.Expected.Error);
+    EXPECT_DOUBLE_EQ(outcome.Value, row.Expected.Value);
+    EXPECT_EQ(outcome.Code, row.Expected.Code);
   }
 }
 
+// Checks with a new interpreter, and with one that may have a programme from another value.
 inline void Check(const Case& row) {
-  clsEquation equation;
-  equation.Equation(row.text);
-  Check(row, equation);
+  clsEquation fresh;
+  Check(row, fresh);
+  clsEquation used;
+  used.Equation(row.Text);
+  used.Var("x", 4);
+  OutcomeOf(used);
+  Check(row, used);
+}
+
+// Checks texts that all come to the same.
+inline void Check(const Outcome& expected, double x, std::initializer_list<std::string> texts) {
+  for (const std::string& text : texts) {
+    Check({text, x, expected});
+  }
+}
+
+inline std::string Repeated(const std::string& part, int times) {
+  std::string text;
+  for (int i = 0; i < times; ++i) {
+    text += part;
+  }
+  return text;
 }
 
 }  // namespace clinorama::tests
