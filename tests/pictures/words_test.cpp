@@ -15,6 +15,7 @@
 #include <utility>
 #include <vector>
 
+#include "base/counted_loop.h"
 #include "base/number_text.h"
 #include "engine/clsEquation.h"
 #include "engine/functions.h"
@@ -95,17 +96,40 @@ TEST(ManualFunctions, AreThoseOfTheLibraryAndAreListedWithTheirPages) {
   }
 }
 
-// An example stands between backquotes; names and signs may stand there too.
-TEST(ManualExamples, HaveAValueSomewhere) {
+// The graph of the work page, or, for the texts about the relations page, of that one.
+struct Plot {
+  const char* Texts;
+  double Bound;  // of its abscissas and ordinates
+};
+constexpr Plot Plots[] = {{"instrucoes_1[3-9]|comentarios_(07|10)", 8}, {".*", 12}};
+constexpr double PlotStep = 0.0005;
+
+// An example stands between backquotes or in a line of its own; names and signs may stand there
+// too. A function has to show something on its page, a number just to have a value.
+TEST(ManualExamples, PlotOverTheWholeRangeOfTheirPage) {
+  const std::regex variable("(^|[^a-z])x([^a-z]|$)", std::regex::icase);
   int examples = 0;
-  for (const auto& [page, groups] : Matches("`([^`]+)`")) {
-    const std::string& example = groups[1];
+  for (const auto& [page, groups] : Matches(R"re(`([^`]+)`|#escreva\("([^"]+)"\))re")) {
+    const std::string example = groups[1] + groups[2];
     if (example.find_first_of("xX0123456789") == std::string::npos || InLibrary(example)) {
       continue;
     }
-    const auto hasValue = [&](double x) { return Evaluate(example, x).Value.has_value(); };
-    EXPECT_TRUE(hasValue(2) || hasValue(0.5) || hasValue(-0.5) || hasValue(5))
-        << page << ": " << example << " " << Evaluate(example, 2).Error;
+    SCOPED_TRACE(page + ": " + example);
+    const Plot* plot = Plots;
+    while (!std::regex_match(page, std::regex(plot->Texts))) {
+      ++plot;
+    }
+    const bool function = std::regex_search(example, variable);
+    bool shown = false;
+    clsEquation equation;
+    equation.Equation(example);
+    EXPECT_NO_THROW(base::CountedLoop(-plot->Bound, plot->Bound, PlotStep, [&](double x) {
+      equation.Var("x", x);
+      equation.Solve();
+      const double y = equation.Solution();
+      shown |= function ? std::fabs(y) < plot->Bound : y != clsEquation::ForaDoDominio;
+    }));
+    EXPECT_TRUE(shown);
     ++examples;
   }
   EXPECT_GT(examples, 200);
