@@ -64,8 +64,8 @@ TEST(ClsEquation, ForgetsAValueThatASolveCouldNotRenew) {
 
 TEST(ClsEquation, KeepsVariablesByNameWithoutRegardToCase) {
   clsEquation equation;
-  equation.Var("x", 2);
   equation.Var("É", 7);
+  equation.Var("x", 2);
   EXPECT_EQ(equation.Var("X"), 2);
   EXPECT_EQ(equation.Var("é"), 7);
   EXPECT_EQ(equation.Var("y"), 0);
