@@ -11,6 +11,7 @@
 #include "forms/picture_box.h"
 #include "journal.h"
 #include "shell/Form2.h"
+#include "tests/support/null_host.h"
 #include "workpage/Form12.h"
 
 namespace clinorama::tests {
@@ -56,11 +57,10 @@ class RandomAct final : public forms::ControlVisitor {
   Journal& journal_;
 };
 
-class MonkeyHost final : public forms::Host {
+class MonkeyHost final : public NullHost {
  public:
   MonkeyHost(Journal& journal, int depth) : journal_(journal), depth_(depth) {}
 
-  double Density() const override { return 1; }
   int GreatestDepth() const override { return depth_; }
   void Shown(forms::Page& page) override { shown_.insert(&page); }
   void Hidden(forms::Page& page) override { shown_.erase(&page); }
@@ -70,11 +70,6 @@ class MonkeyHost final : public forms::Host {
       last_ = nullptr;
     }
   }
-  void Changed(forms::Control& /*control*/) override {}
-  void Drawn(forms::PictureBox& picture) override { picture.TakeDirty(); }
-  void Flush(forms::PictureBox& /*picture*/) override {}
-  void PaintText(forms::Raster& /*raster*/, const forms::TextRun& /*run*/) override {}
-  void SetFocus(forms::Control& /*control*/) override {}
   void MsgBox(const std::string& /*text*/, int /*style*/, const std::string& /*title*/) override {
     ActSometimes(3);
   }
@@ -179,11 +174,8 @@ class MonkeyHost final : public forms::Host {
 void ExpectRest(Journal& journal) {
   journal.Expect(forms::Application::Current().AtRest(), "no handler is counted");
   const Form12& page = forms::The<Form12>();
-  for (const forms::Control* command : {static_cast<const forms::Control*>(&page.Função1),
-                                        static_cast<const forms::Control*>(&page.DerivadaDireita),
-                                        static_cast<const forms::Control*>(&page.Calcular)}) {
-    journal.Expect(command->Enabled, "the commands of the work page are free");
-  }
+  journal.Expect(page.Função1.Enabled && page.DerivadaDireita.Enabled && page.Calcular.Enabled,
+                 "the commands of the work page are free");
   journal.Expect(!page.Image1(1).Visible, "the moving marker is away");
 }
 

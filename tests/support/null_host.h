@@ -8,11 +8,11 @@
 #include "forms/host.h"
 #include "forms/picture_box.h"
 
-namespace clinorama::benchmarks {
+namespace clinorama::tests {
 
 // A machine without windows and without a clock: nothing is shown, and nobody answers. What is left
-// to be timed is the program's own work.
-class NullHost final : public forms::Host {
+// is the program's own work.
+class NullHost : public forms::Host {
  public:
   explicit NullHost(double density = 1) : density_(density) {}
 
@@ -38,4 +38,4 @@ class NullHost final : public forms::Host {
   double density_;  // device pixels to a logical pixel
 };
 
-}  // namespace clinorama::benchmarks
+}  // namespace clinorama::tests
