@@ -100,7 +100,8 @@ TEST(Functions, DrawRandomNumbersFromTheirRanges) {
       const auto [draw, code, error] = OutcomeOf(equation);
       ASSERT_EQ(code, Untouched);
       ASSERT_TRUE(row.Nearness != 1 || draw == std::floor(draw));
-      ASSERT_TRUE(row.Text[1] != 'n' || draw == double{static_cast<float>(draw)}) << "32-bit reals";
+      ASSERT_TRUE(row.Text[1] != 'n' || draw == static_cast<double>(static_cast<float>(draw)))
+          << "32-bit reals";
       least = std::fmin(least, draw);
       most = std::fmax(most, draw);
     }
