@@ -66,6 +66,9 @@ TEST_F(WorkPage, PausesAMotionAndGoesOnFromTheSameStep) {
   EXPECT_TRUE(page.Parar.Reachable() && page.Continuar1.Reachable());
   page.Parar.UserClick();  // without a motion
   EXPECT_EQ(host.Steps, 308);
+  host.Depth = 1;
+  page.Parar1.UserClick();  // a pause that nothing could end is none
+  EXPECT_EQ(host.Steps, 308);
 }
 
 TEST_F(WorkPage, EndsItsMotionAndPausesWhenClosed) {
