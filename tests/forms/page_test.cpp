@@ -26,11 +26,11 @@ class Pages : public ApplicationTest {
     ~Leaving() { Notes.push_back(Note); }
   };
 
-  // A handler that waits for so many steps of 5 milliseconds.
-  std::function<void()> Motion(const std::string& name, int steps) {
-    return [this, &page = The<SamplePage>(), name, steps] {
+  // A handler that waits for ten steps of 5 milliseconds.
+  std::function<void()> Motion(const std::string& name) {
+    return [this, &page = The<SamplePage>(), name] {
       const Leaving leaving{log, name + " left"};
-      for (int i = 0; i < steps; ++i) {
+      for (int i = 0; i < 10; ++i) {
         page.Wait(5);
       }
       log.push_back(name + " finished");
@@ -38,8 +38,8 @@ class Pages : public ApplicationTest {
   }
 
   Pages() {
-    The<SamplePage>().Command1.Click = Motion("first", 10);
-    The<SamplePage>().Command2.Click = Motion("second", 10);
+    The<SamplePage>().Command1.Click = Motion("first");
+    The<SamplePage>().Command2.Click = Motion("second");
   }
 
   // Plays the first motion of the page, with its window open.
@@ -114,22 +114,12 @@ TEST_F(Pages, GoOnWhenAnotherPageIsClosedButNotWhenTheirOwnIsOpenedAnew) {
   EXPECT_TRUE(The<SamplePage>().Visible);
 }
 
-TEST_F(Pages, EndTheProgramFromANestedHandler) {
-  auto& page = The<SamplePage>();
-  page.Sair.Click = [] { forms::End(); };
-  host.AtStep(2, [&] { page.Command2.UserClick(); });
-  host.AtStep(4, [&] { page.Sair.UserClick(); });
-  EXPECT_THROW(Play(), ProgramEnded);
-  EXPECT_EQ(log, (Log{"second left", "first left"}));
-}
-
 TEST_F(Pages, ShowAFailureThatAHandlerLetsOutAndEndThatHandlerOnly) {
   The<SamplePage>().Command2.Click = [] { base::Raise(base::TypeMismatch); };
   host.AtStep(2, [] { The<SamplePage>().Command2.UserClick(); });
   Play();
-  EXPECT_EQ(
-      host.MessageBoxes,
-      (std::vector<MessageBox>{{base::Failure(base::TypeMismatch).Description(), 0, "Clinorama"}}));
+  const MessageBox box{base::Failure(base::TypeMismatch).Description(), 0, "Clinorama"};
+  EXPECT_EQ(host.MessageBoxes, std::vector{box});
   EXPECT_EQ(log, (Log{"first finished", "first left"}));
 }
 
@@ -171,14 +161,18 @@ TEST_F(Pages, IgnoreClicksWhereHandlersAreNestedTooDeeply) {
   EXPECT_EQ(log.size(), 7U);
 }
 
-TEST_F(Pages, LetAnErrorOfTheProgramThrough) {
+TEST_F(Pages, LetTheEndAndAnErrorOfTheProgramThrough) {
   auto& page = The<SamplePage>();
-  page.Show();
-  page.Command2.Click = [] {
+  page.Sair.Click = [] { forms::End(); };
+  page.OptionA.Click = [] {
     base::Ignorar([] { base::Raise(base::Overflow); });
     base::Ignorar([] { throw std::out_of_range("an error of the program"); });
   };
-  EXPECT_THROW(page.Command2.UserClick(), std::out_of_range);
+  host.AtStep(2, [&] { page.Command2.UserClick(); });
+  host.AtStep(4, [&] { page.Sair.UserClick(); });
+  EXPECT_THROW(Play(), ProgramEnded);
+  EXPECT_EQ(log, (Log{"second left", "first left"}));
+  EXPECT_THROW(page.OptionA.UserClick(), std::out_of_range);
   EXPECT_TRUE(host.MessageBoxes.empty());
 }
 
@@ -192,8 +186,7 @@ TEST_F(Pages, AreActivatedWhenTheyBecomeTheActivePage) {
   };
   const Step steps[] = {
       {"shown", [&] { page.Show(); }, 1},
-      {"shown when active", [&] { page.Show(); }, 0},
-      {"its window clicked when active", [&] { application.BecameActive(page); }, 0},
+      {"shown when active", [&] { page.Show(), application.BecameActive(page); }, 0},
       {"a message box over it", [] { forms::MsgBox("Erro"); }, 0},
       {"another page shown", [&] { other.Show(); }, 0},
       {"shown over another page", [&] { page.Show(); }, 1},
