@@ -6,8 +6,8 @@
 
 #include <benchmark/benchmark.h>
 
+#include "benchmarks/null_host.h"
 #include "forms/application.h"
-#include "tests/support/null_host.h"
 #include "workpage/Form12.h"
 
 namespace {
@@ -23,7 +23,7 @@ struct OpenPage {
       : Host(static_cast<double>(state.range()) / 100), Program(Host), Page(The<Form12>()) {
     Page.Show();
   }
-  clinorama::tests::NullHost Host;
+  clinorama::benchmarks::NullHost Host;
   clinorama::forms::Application Program;
   Form12& Page;
 };

@@ -8,9 +8,9 @@
 #include <iostream>
 #include <string>
 
+#include "benchmarks/null_host.h"
 #include "forms/application.h"
 #include "relations/Form13.h"
-#include "tests/support/null_host.h"
 
 namespace {
 
@@ -39,7 +39,7 @@ double MillisecondsOf(forms::CommandButton& button) {
 }  // namespace
 
 int main() {
-  tests::NullHost host;
+  benchmarks::NullHost host;
   forms::Application application(host);
   auto& page = forms::The<Form13>();
   page.Show();

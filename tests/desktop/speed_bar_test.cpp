@@ -3,8 +3,6 @@
 #include "desktop/speed_bar.h"
 
 #include <QKeyEvent>
-#include <QStyle>
-#include <QStyleOptionSlider>
 
 #include "desktop_fixture.h"
 #include "forms/controls.h"
@@ -26,18 +24,6 @@ class SpeedBarTest : public DesktopTest {
     bar = Find<SpeedBar>("Form12", "HScroll1");
   }
 
-  QPoint Middle(QStyle::SubControl part) const {
-    QStyleOptionSlider option;
-    option.initFrom(bar);
-    option.orientation = Qt::Horizontal;
-    option.minimum = bar->minimum();
-    option.maximum = bar->maximum();
-    option.sliderPosition = bar->sliderPosition();
-    option.pageStep = bar->pageStep();
-    option.upsideDown = bar->invertedAppearance();
-    return bar->style()->subControlRect(QStyle::CC_ScrollBar, &option, part, bar).center();
-  }
-
   void Send(QEvent::Type type, int key, bool repeat = false) {
     QKeyEvent event(type, key, Qt::NoModifier, {}, repeat);
     QApplication::sendEvent(bar, &event);
@@ -50,11 +36,10 @@ TEST_F(SpeedBarTest, LeftEndIsTheSlowest) {
   EXPECT_EQ(The<Form12>().HScroll1.Value(), 5);
   QTest::keyClick(bar, Qt::Key_Right);
   EXPECT_EQ(The<Form12>().HScroll1.Value(), 4);
-  const int thumbBefore = Middle(QStyle::SC_ScrollBarSlider).x();
   QTest::keyClick(bar, Qt::Key_Left);
   QTest::keyClick(bar, Qt::Key_Left);
   EXPECT_EQ(The<Form12>().HScroll1.Value(), 6);
-  EXPECT_LT(Middle(QStyle::SC_ScrollBarSlider).x(), thumbBefore);
+  EXPECT_LT(bar->sliderPosition(), 5) << "steps from the left end";
   // The arrows at the ends move the thumb their own way.
   QTest::mouseClick(bar, Qt::LeftButton, {}, QPoint(bar->width() - 5, bar->height() / 2));
   EXPECT_EQ(The<Form12>().HScroll1.Value(), 5);
@@ -63,12 +48,15 @@ TEST_F(SpeedBarTest, LeftEndIsTheSlowest) {
 }
 
 TEST_F(SpeedBarTest, HeldByTheMouseOnAnyPart) {
-  for (const auto part : {QStyle::SC_ScrollBarSlider, QStyle::SC_ScrollBarAddPage,
-                          QStyle::SC_ScrollBarSubPage, QStyle::SC_ScrollBarAddLine}) {
-    QTest::mousePress(bar, Qt::LeftButton, {}, Middle(part));
-    EXPECT_TRUE(application.BarHeld()) << part;
-    QTest::mouseRelease(bar, Qt::LeftButton, {}, Middle(part));
-    EXPECT_FALSE(application.BarHeld()) << part;
+  // The arrows, the groove on both sides of the thumb, and the thumb in the middle.
+  for (const int x :
+       {5, bar->width() / 4, bar->width() / 2, bar->width() * 3 / 4, bar->width() - 5}) {
+    The<Form12>().HScroll1.Value = 5;
+    const QPoint place(x, bar->height() / 2);
+    QTest::mousePress(bar, Qt::LeftButton, {}, place);
+    EXPECT_TRUE(application.BarHeld()) << x;
+    QTest::mouseRelease(bar, Qt::LeftButton, {}, place);
+    EXPECT_FALSE(application.BarHeld()) << x;
   }
 }
 

@@ -5,7 +5,6 @@
 #include <cstdint>
 
 #include "tests/lesson/lesson_test.h"
-#include "workpage/Form12.h"
 
 namespace clinorama::tests {
 namespace {
@@ -143,31 +142,6 @@ TEST_F(LessonTest, LeavesTheMarksOfItsPassingFigures) {
     EXPECT_TRUE(std::equal(pixels.begin(), pixels.end(), picture.Kept().Data())) << number;
     EXPECT_NE(pixels, before) << number;
   }
-}
-
-TEST_F(LessonTest, EndsWhatIsUnderWayWhenThePageIsLeft) {
-  for (const auto& [item, lastCall] :
-       {std::pair{&Form9::FecharPágina, "Unloaded Form9"}, {&Form9::Clinorama, "Shown Form12"}}) {
-    auto& lesson = forms::The<Form9>();
-    lesson.Show();
-    for (int i = 1; i < 7; ++i) {
-      lesson.Seguinte.UserClick();
-    }
-    host.Steps = 0;
-    host.AtStep(40, [&lesson] { lesson.Parar.UserClick(); });
-    host.AtStep(50, [&lesson, leave = item] { (lesson.*leave).UserClick(); });
-    lesson.Seguinte.UserClick();
-    EXPECT_EQ(host.Steps, 50);
-    EXPECT_EQ(host.PageCalls.back(), lastCall);
-    EXPECT_EQ(forms::The<Form9>().Label3.Caption(), "0");
-  }
-}
-
-TEST_F(LessonTest, EndsTheProgramFromAPauseInsideAMotion) {
-  GoTo(6);
-  host.AtStep(40, [&] { page.Parar.UserClick(); });
-  host.AtStep(50, [&] { page.AbandonarPrograma.UserClick(); });
-  EXPECT_THROW(page.Seguinte.UserClick(), ProgramEnded);
 }
 
 }  // namespace

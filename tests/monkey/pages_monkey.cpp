@@ -6,12 +6,12 @@
 #include <set>
 #include <vector>
 
+#include "benchmarks/null_host.h"
 #include "forms/application.h"
 #include "forms/controls.h"
 #include "forms/picture_box.h"
 #include "journal.h"
 #include "shell/Form2.h"
-#include "tests/support/null_host.h"
 #include "workpage/Form12.h"
 
 namespace clinorama::tests {
@@ -57,7 +57,7 @@ class RandomAct final : public forms::ControlVisitor {
   Journal& journal_;
 };
 
-class MonkeyHost final : public NullHost {
+class MonkeyHost final : public benchmarks::NullHost {
  public:
   MonkeyHost(Journal& journal, int depth) : journal_(journal), depth_(depth) {}
 

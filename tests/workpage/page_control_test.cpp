@@ -5,8 +5,6 @@
 
 #include "lesson/Form9.h"
 #include "relations/Form13.h"
-#include "shell/Form5.h"
-#include "shell/viewers.h"
 #include "tests/workpage/work_page_test.h"
 
 namespace clinorama::tests {
@@ -85,21 +83,6 @@ TEST_F(WorkPage, EndsItsMotionAndPausesWhenClosed) {
     closed.DerivadaEsquerda.UserClick();
     EXPECT_EQ(host.Steps, before + 20);
   }
-}
-
-TEST_F(WorkPage, OpensOtherPages) {
-  page.Exemplos.UserClick();
-  EXPECT_EQ(Module1::OrigemExemplos, 3);
-  const std::pair<forms::Menu&, forms::Page&> viewers[] = {{page.Instruções, The<Form6>()},
-                                                           {page.Comentários, The<Form11>()},
-                                                           {page.Sintaxe, The<Form3>()},
-                                                           {page.FunçõesDefinidas, The<Form4>()}};
-  for (const auto& [item, viewer] : viewers) {
-    EXPECT_FALSE(viewer.Visible);
-    item.UserClick();
-    EXPECT_TRUE(viewer.Visible && The<Form5>().Visible && page.Visible);
-  }
-  EXPECT_THROW(page.AbandonarPrograma.UserClick(), ProgramEnded);
 }
 
 TEST_F(WorkPage, HandsItsFunctionToTheRelationsPage) {

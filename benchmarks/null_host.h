@@ -8,7 +8,7 @@
 #include "forms/host.h"
 #include "forms/picture_box.h"
 
-namespace clinorama::tests {
+namespace clinorama::benchmarks {
 
 // A machine without windows and without a clock: nothing is shown, and nobody answers. What is left
 // is the program's own work.
@@ -38,4 +38,4 @@ class NullHost : public forms::Host {
   double density_;  // device pixels to a logical pixel
 };
 
-}  // namespace clinorama::tests
+}  // namespace clinorama::benchmarks
