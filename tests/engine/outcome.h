@@ -17,7 +17,7 @@ constexpr int Untouched = 99;
 struct Outcome {
   double Value = 0;  // what `Solution` gives
   int Code = Untouched;
-  std::string Error = "";  // number and description
+  std::string Error{};  // number and description
 };
 
 inline Outcome Value(double value, int code = Untouched) { return {value, code}; }

@@ -113,9 +113,10 @@ TEST_F(LessonTest, LeavesTheMarksOfItsPassingFigures) {
   for (const int number : {7, 8, 12, 13}) {
     GoTo(number - 1);
     const forms::PictureBox& picture = page.Picture1;
-    const int width = picture.Kept().Width();
+    const auto width = static_cast<std::size_t>(picture.Kept().Width());
+    const auto height = static_cast<std::size_t>(picture.Kept().Height());
     std::vector<std::uint32_t> pixels(picture.Kept().Data(),
-                                      picture.Kept().Data() + width * picture.Kept().Height());
+                                      picture.Kept().Data() + width * height);
     const auto before = pixels;
     page.Seguinte.UserClick();
 
@@ -130,7 +131,8 @@ TEST_F(LessonTest, LeavesTheMarksOfItsPassingFigures) {
         const int x = box.X + i % box.Width;
         const int y = box.Y + i / box.Width;
         if (mask.Screen().At(x, y) == forms::Black) {
-          std::uint32_t& pixel = pixels[static_cast<std::size_t>(y * width + x)];
+          std::uint32_t& pixel =
+              pixels[static_cast<std::size_t>(y) * width + static_cast<std::size_t>(x)];
           pixel = line.DrawMode == forms::CopyPen ? line.Pen.Rgb
                   : line.DrawMode == forms::InvertPixel
                       ? ~pixel & forms::ColorBits

@@ -114,7 +114,7 @@ TEST(ManualExamples, PlotOverTheWholeRangeOfTheirPage) {
     if (example.find_first_of("xX0123456789") == std::string::npos || InLibrary(example)) {
       continue;
     }
-    SCOPED_TRACE(page + ": " + example);
+    SCOPED_TRACE(testing::Message() << page << ": " << example);
     const Plot* plot = Plots;
     while (!std::regex_match(page, std::regex(plot->Texts))) {
       ++plot;

@@ -46,7 +46,7 @@ class AllPages : public ApplicationTest {
     try {
       action();
     } catch (const ProgramEnded&) {
-      host.PageCalls.push_back("End");
+      host.PageCalls.emplace_back("End");
     }
     for (const auto& [name, value] : {std::pair("PaginaInstrucoes", Module1::PaginaInstrucoes),
                                       std::pair("PaginaComentarios", Module1::PaginaComentarios),

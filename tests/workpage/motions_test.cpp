@@ -53,7 +53,7 @@ TEST_F(LateralDerivative, IsRefusedInThisOrder) {
       // The code of the row before stays where the function has no guarded operation.
       {left, "x+1", "1", outsideDomain}};
   for (const auto& [side, function, abscissa, box] : cases) {
-    SCOPED_TRACE(function + " at " + abscissa);
+    SCOPED_TRACE(testing::Message() << function << " at " << abscissa);
     page.Função1.UserType(function);
     page.Abcissa.UserType(abscissa);
     if (box != noFunction && box != NotPlotted) {
@@ -119,7 +119,7 @@ TEST_F(LateralDerivative, WalksTowardsThePointWithTheCommandsLocked) {
     host.WaitedMilliseconds = 0;
     EXPECT_EQ(Derive(side, "x^2", "2"), "4");
     EXPECT_EQ(State(), kept ? "|4| kept fixed" : "4|4| kept unkept fixed");
-    EXPECT_EQ(host.WaitedMilliseconds, 5 * steps + 2 * 5);
+    EXPECT_EQ(host.WaitedMilliseconds, 5 * (steps + 2));
 
     // Two guides, then each semi-secant twice, then the red segment.
     ASSERT_EQ(onKept.size(), 2 * steps + 3);
