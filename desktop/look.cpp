@@ -6,12 +6,14 @@
 #include <QPainter>
 #include <QPalette>
 #include <QPixmapCache>
-#include <QStyleFactory>
 #include <QSvgRenderer>
+#include <QVariant>
+#include <QWidget>
 #include <algorithm>
 #include <cmath>
 
 #include "desktop/portuguese.h"
+#include "desktop/style.h"
 #include "forms/raster.h"
 
 namespace clinorama::desktop {
@@ -19,14 +21,32 @@ namespace {
 
 constexpr double PixelsToPoint = 96.0 / 72.0;
 // Below this size in device pixels the digits of an axis are painted without grey edges and never
-// bold, as their strokes are a pixel wide at the least: that keeps them sharp.
+// bold, as their strokes are a pixel wide at the least: that keeps them sharp. The letters "x" and
+// "y" would look like others then.
 constexpr int SmallestSmoothed = 10;
+
+constexpr const char* ZoomProperty = "zoom";
 
 const QString PlainFamily = QStringLiteral("DejaVu Sans");
 const QString ComicFamily = QStringLiteral("Comic Neue");
 
+// Rounded down, so that no text outgrows the place that the layout gives it.
 int PixelSize(const forms::Font& font, double density) {
-  return std::max(1, static_cast<int>(std::lround(font.Size * PixelsToPoint * density)));
+  constexpr double RoundingError = 1e-6;
+  return std::max(1, static_cast<int>(font.Size * PixelsToPoint * density + RoundingError));
+}
+
+}  // namespace
+
+void SetLook() {
+  QLocale::setDefault(QLocale(QLocale::Portuguese, QLocale::Portugal));
+  QGuiApplication::setDesktopFileName(QStringLiteral("clinorama"));
+  QApplication::setStyle(new Style);
+  QApplication::setPalette(LightPalette());
+  QApplication::setFont(FontFor({}, 1));
+  QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/clinorama.svg")));
+  static Portuguese translator;
+  QApplication::installTranslator(&translator);
 }
 
 QPalette LightPalette() {
@@ -48,35 +68,39 @@ QPalette LightPalette() {
   return palette;
 }
 
-}  // namespace
-
-void SetLook() {
-  QLocale::setDefault(QLocale(QLocale::Portuguese, QLocale::Portugal));
-  QGuiApplication::setDesktopFileName(QStringLiteral("clinorama"));
-  QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
-  QApplication::setPalette(LightPalette());
-  QApplication::setFont(FontFor({}));
-  QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/clinorama.svg")));
-  static Portuguese translator;
-  QApplication::installTranslator(&translator);
+void SetLookOf(QWidget& window, double zoom) {
+  window.setProperty(ZoomProperty, zoom);
+  window.setPalette(LightPalette());
+  window.setFont(FontFor({}, zoom));
+  window.setLayoutDirection(Qt::LeftToRight);
 }
 
-QFont FontFor(const forms::Font& font) {
+double ZoomOf(const QWidget& widget) {
+  const QVariant zoom = widget.window()->property(ZoomProperty);
+  return zoom.isValid() ? zoom.toDouble() : 1;
+}
+
+int LineWidth(double zoom) { return std::max(1, static_cast<int>(zoom)); }
+
+QFont FontFor(const forms::Font& font, double zoom) {
   QFont chosen(font.Name == "Comic Sans MS" ? ComicFamily : PlainFamily);
-  chosen.setPixelSize(PixelSize(font, 1));
+  chosen.setPixelSize(PixelSize(font, zoom));
   chosen.setBold(font.Bold);
+  chosen.setItalic(false);
   return chosen;
 }
 
-QFont SurfaceFontFor(const forms::Font& font, double density) {
-  QFont chosen = FontFor(font);
-  chosen.setPixelSize(PixelSize(font, density));
+QFont SurfaceFontFor(const forms::TextRun& run) {
+  QFont chosen = FontFor(run.Font, run.Density);
   // Axes are laid out for a symbol font that is narrower than the plain family: its labels stand
   // less than two pixels apart otherwise.
-  if (forms::IsSymbolFont(font)) {
+  if (forms::IsSymbolFont(run.Font)) {
     chosen.setStretch(QFont::SemiCondensed);
   }
-  if (chosen.pixelSize() < SmallestSmoothed) {
+  const bool letters = std::any_of(run.Text.begin(), run.Text.end(), [](char sign) {
+    return (sign >= 'A' && sign <= 'Z') || (sign >= 'a' && sign <= 'z');
+  });
+  if (chosen.pixelSize() < SmallestSmoothed && !letters) {
     chosen.setBold(false);
     chosen.setHintingPreference(QFont::PreferFullHinting);
     chosen.setStyleStrategy(QFont::NoAntialias);
@@ -90,8 +114,8 @@ forms::Color ColorFrom(const QColor& color) { return {color.rgb() & forms::Color
 
 QString TextFor(const std::string& text) { return QString::fromStdString(text); }
 
-QPixmap PictureFor(const std::string& name, QSize size, double ratio) {
-  const QSize pixels = (QSizeF(size) * ratio).toSize();
+QPixmap PictureFor(const std::string& name, QSizeF size, double ratio) {
+  const QSize pixels = (size * ratio).toSize();
   const QString file = QStringLiteral(":/%1.svg").arg(TextFor(name));
   const QString key = QStringLiteral("%1@%2x%3").arg(file).arg(pixels.width()).arg(pixels.height());
   QPixmap pixmap;

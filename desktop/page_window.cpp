@@ -1,11 +1,13 @@
 #include "desktop/page_window.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QCloseEvent>
-#include <QGuiApplication>
 #include <QMenu>
 #include <QMenuBar>
 #include <QScreen>
+#include <QWindow>
+#include <algorithm>
 
 #include "desktop/look.h"
 #include "desktop/surface_view.h"
@@ -16,8 +18,19 @@
 namespace clinorama::desktop {
 namespace {
 
-// The screen that pages are laid out for; on a larger one they stand as far from its middle.
-constexpr QSize LayoutScreen(1024, 768);
+// A window that the user drags to another screen settles when it has not moved for so long.
+constexpr int MillisecondsToFit = 300;
+
+// The widest frames that the window manager has given to pages so far.
+QMargins FrameOfPages() {
+  QMargins frame;
+  for (const QWidget* window : QApplication::topLevelWidgets()) {
+    if (window->isVisible() && dynamic_cast<const PageWindow*>(window) != nullptr) {
+      frame = frame | window->windowHandle()->frameMargins();
+    }
+  }
+  return frame;
+}
 
 template <class Bar>
 void AddMenuItems(Bar& bar, const std::vector<forms::Menu*>& items) {
@@ -36,35 +49,60 @@ void AddMenuItems(Bar& bar, const std::vector<forms::Menu*>& items) {
 
 }  // namespace
 
-PageWindow::PageWindow(forms::Page& page) : page_(&page), client_(new QWidget(this)) {
+PageWindow::PageWindow(forms::Page& page, QScreen& screen)
+    : page_(&page), client_(new QWidget(this)) {
   setObjectName(TextFor(page.Name()));
-  AddControls(page, *client_);
-  const QRect client = PlaceOf(page);
-  int barHeight = 0;
+  setScreen(&screen);
   if (!page.MenuBar().empty()) {
-    auto* bar = new QMenuBar(this);
-    AddMenuItems(*bar, page.MenuBar());
-    barHeight = bar->sizeHint().height();
-    bar->setGeometry(0, 0, client.width(), barHeight);
+    bar_ = new QMenuBar(this);
+    AddMenuItems(*bar_, page.MenuBar());
   }
-  client_->setGeometry(0, barHeight, client.width(), client.height());
-  const QSize size(client.width(), barHeight + client.height());
-  const QSize spare = (QGuiApplication::primaryScreen()->size() - LayoutScreen) / 2;
-  setGeometry(QRect(QPoint(client.left() + qMax(0, spare.width()),
-                           client.top() - barHeight + qMax(0, spare.height())),
-                    size));
-  setFixedSize(size);
+  AddControls(page, *client_);
   SynchronisePage();
+  fitting_.setSingleShot(true);
+  fitting_.setInterval(MillisecondsToFit);
+  fitting_.callOnTimeout([this] { FitOnce(*this->screen()); });
+  FitOnce(screen);
 }
 
 void PageWindow::AddControls(forms::Control& container, QWidget& parent) {
   for (forms::Control* control : container.Children()) {
     View view = MakeView(*control, parent);
     view.Widget->setObjectName(TextFor(control->Name()));
-    SynchroniseView(*control, view);
     AddControls(*control, *view.Widget);
     views_.emplace(control, std::move(view));
   }
+}
+
+Fit PageWindow::FitTo(const QScreen& screen) {
+  return FitInto(screen.availableGeometry(), FrameOfPages());
+}
+
+void PageWindow::FitOnce(const QScreen& screen) {
+  const Fit fit = FitTo(screen);
+  if (fit.Zoom == zoom_) {
+    return;
+  }
+  zoom_ = fit.Zoom;
+  SetLookOf(*this, zoom_);
+  int barHeight = 0;
+  const QRect client = PlaceOf(*page_, zoom_);
+  if (bar_ != nullptr) {
+    for (QMenu* menu : bar_->findChildren<QMenu*>()) {
+      SetLookOf(*menu, zoom_);
+    }
+    barHeight = bar_->sizeHint().height();
+    bar_->setGeometry(0, 0, client.width(), barHeight);
+  }
+  for (const auto& [control, view] : views_) {
+    SynchroniseView(*control, view, zoom_);
+  }
+  client_->setGeometry(0, barHeight, client.width(), client.height());
+  setFixedSize(client.width(), barHeight + client.height());
+  const QPoint corner = fit.Corner.toPoint() + client.topLeft() - QPoint(0, barHeight);
+  const int highest = screen.availableGeometry().top() + FrameOfPages().top();
+  const QRect place({corner.x(), std::max(corner.y(), highest)}, size());
+  setGeometry(place);
 }
 
 void PageWindow::SynchronisePage() {
@@ -81,7 +119,7 @@ void PageWindow::Synchronise(forms::Control& control) {
   if (&control == page_) {
     SynchronisePage();
   } else if (const auto found = views_.find(&control); found != views_.end()) {
-    SynchroniseView(control, found->second);
+    SynchroniseView(control, found->second, zoom_);
   }
 }
 
@@ -110,6 +148,7 @@ void PageWindow::Focus(forms::Control& control) {
 
 void PageWindow::Leave() {
   page_ = nullptr;
+  fitting_.stop();
   views_.clear();
   hide();
   const auto cutOff = [this](QObject* object) {
@@ -129,6 +168,25 @@ void PageWindow::Leave() {
 
 // The filter stands on the window and on all in it as soon as its page is gone.
 bool PageWindow::eventFilter(QObject* /*watched*/, QEvent* /*event*/) { return true; }
+
+void PageWindow::showEvent(QShowEvent* /*event*/) {
+  QObject::connect(windowHandle(), &QWindow::screenChanged, this, &PageWindow::WatchTheScreen,
+                   Qt::UniqueConnection);
+  WatchTheScreen();
+}
+
+void PageWindow::moveEvent(QMoveEvent* /*event*/) {
+  if (fitting_.isActive()) {
+    fitting_.start();
+  }
+}
+
+// The screen may be another one now, and it may get another resolution or a panel.
+void PageWindow::WatchTheScreen() {
+  QObject::connect(screen(), &QScreen::availableGeometryChanged, &fitting_,
+                   qOverload<>(&QTimer::start), Qt::UniqueConnection);
+  fitting_.start();
+}
 
 // The page decides what closing means; where it unloads itself the window is hidden by that.
 void PageWindow::closeEvent(QCloseEvent* event) {

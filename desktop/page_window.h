@@ -1,11 +1,14 @@
 #pragma once
 
+#include <QTimer>
 #include <QWidget>
 #include <map>
 
+#include "desktop/fit.h"
 #include "desktop/views.h"
 
-class QMenu;
+class QMenuBar;
+class QScreen;
 
 namespace clinorama::forms {
 class Menu;
@@ -15,10 +18,16 @@ class PictureBox;
 
 namespace clinorama::desktop {
 
-// The window of a page: its menu bar, its client area of fixed size, and a view of each control.
+// The window of a page: its menu bar, its client area of fixed size, and a view of each control. It
+// is as large as it fits the screen that it is on.
 class PageWindow : public QWidget {
  public:
-  explicit PageWindow(forms::Page& page);
+  PageWindow(forms::Page& page, QScreen& screen);
+
+  // How pages fit a screen beside the frames that the window manager gives them.
+  static Fit FitTo(const QScreen& screen);
+  // Takes the size and the place for a screen, unless the window was made for such a one.
+  void FitOnce(const QScreen& screen);
 
   // Shows what a control (or the page itself) now says.
   void Synchronise(forms::Control& control);
@@ -34,15 +43,21 @@ class PageWindow : public QWidget {
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
+  void showEvent(QShowEvent* event) override;
+  void moveEvent(QMoveEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
 
  private:
+  void WatchTheScreen();
   void AddControls(forms::Control& container, QWidget& parent);
   void SynchronisePage();
   QWidget* WidgetOf(const forms::Control& control) const;
 
   forms::Page* page_;
+  double zoom_ = 0;  // none yet
+  QMenuBar* bar_ = nullptr;
   QWidget* client_;
+  QTimer fitting_;
   std::map<const forms::Control*, View> views_;
 };
 

@@ -3,13 +3,17 @@
 #include <QApplication>
 #include <QColorDialog>
 #include <QEventLoop>
+#include <QFontDatabase>
 #include <QFontMetrics>
+#include <QGridLayout>
 #include <QImage>
 #include <QMessageBox>
 #include <QPainter>
+#include <QRegularExpression>
 #include <QScreen>
 #include <QSettings>
 #include <QThread>
+#include <QToolTip>
 #include <QWindow>
 #include <chrono>
 #include <cmath>
@@ -24,8 +28,24 @@
 namespace clinorama::desktop {
 namespace {
 
+// Frames in a second. Some remote screens say that they show none.
+constexpr double UsualRate = 60;
+constexpr double SlowestRate = 20;
+
+// Letters of a word in a box. A word cannot be broken, and a box must fit the screen.
+constexpr int LongestWord = 40;
+
 // How often it is tried to drop the windows that have left their pages.
 constexpr int MillisecondsToDropping = 500;
+
+// A name that the user made up may have any length. One that is too long loses its middle. No line
+// breaks behind the dots.
+QString WithoutLongWords(const QString& text) {
+  constexpr int End = LongestWord / 2;
+  static const QRegularExpression longWord(
+      QStringLiteral("(\\S{%1})\\S{%2,}(\\S{%1})").arg(End).arg(LongestWord - 2 * End + 1));
+  return QString(text).replace(longWord, QStringLiteral("\\1…\u2060\\2"));
+}
 
 }  // namespace
 
@@ -42,13 +62,27 @@ QtHost::QtHost() {
 
 QtHost::~QtHost() = default;
 
-double QtHost::Density() const { return qApp->devicePixelRatio(); }
+// No window is active at the start, and when a page has just been hidden to show another one.
+QScreen& QtHost::Here() const {
+  if (const QWidget* window = QApplication::activeWindow()) {
+    return *window->screen();
+  }
+  return leftScreen_ == nullptr ? *QGuiApplication::primaryScreen() : *leftScreen_;
+}
+
+double QtHost::Density() const {
+  return PageWindow::FitTo(Here()).Zoom * Here().devicePixelRatio();
+}
 
 void QtHost::Shown(forms::Page& page) {
   std::unique_ptr<PageWindow>& window = windows_[&page];
   if (window == nullptr) {
-    window = std::make_unique<PageWindow>(page);
+    window = std::make_unique<PageWindow>(page, Here());
+  } else if (!window->isVisible()) {
+    window->FitOnce(*window->screen());
   }
+  QToolTip::setFont(window->font());
+  QToolTip::setPalette(window->palette());
   window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
   window->show();
   window->raise();
@@ -57,6 +91,7 @@ void QtHost::Shown(forms::Page& page) {
 
 void QtHost::Hidden(forms::Page& page) {
   if (PageWindow* window = WindowOf(page)) {
+    leftScreen_ = window->screen();
     window->hide();
   }
 }
@@ -105,7 +140,8 @@ void QtHost::Flush(forms::PictureBox& picture) {
     return;
   }
   window->ShowDrawingNow(picture);
-  const double frame = 1e9 / window->screen()->refreshRate();  // nanoseconds
+  const double rate = window->screen()->refreshRate();
+  const double frame = 1e9 / (rate < SlowestRate ? UsualRate : rate);  // nanoseconds
   std::this_thread::sleep_for(
       std::chrono::nanoseconds(std::llround(frame) - sinceFlush_.nsecsElapsed()));
   sinceFlush_.start();
@@ -115,7 +151,7 @@ void QtHost::PaintText(forms::Raster& raster, const forms::TextRun& run) {
   QImage image(reinterpret_cast<uchar*>(raster.Data()), raster.Width(), raster.Height(),
                QImage::Format_RGB32);
   QPainter painter(&image);
-  painter.setFont(SurfaceFontFor(run.Font, run.Density));
+  painter.setFont(SurfaceFontFor(run));
   painter.setPen(ColorFor(run.Ink));
   painter.drawText(QPoint(run.X, run.Y + painter.fontMetrics().ascent()), TextFor(run.Text));
 }
@@ -133,7 +169,9 @@ void QtHost::StandBeforeThePage(QDialog& dialog) {
   dialog.setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint);
   forms::Page* page = forms::Application::Current().Running();
   const PageWindow* window = page == nullptr ? nullptr : WindowOf(*page);
-  if (window == nullptr || !window->isVisible()) {
+  const bool placed = window != nullptr && window->isVisible();
+  SetLookOf(dialog, placed ? ZoomOf(*window) : PageWindow::FitTo(Here()).Zoom);
+  if (!placed) {
     return;
   }
   dialog.winId();  // makes the window that windowHandle gives
@@ -146,12 +184,18 @@ void QtHost::MsgBox(const std::string& text, int style, const std::string& title
   QMessageBox box;
   box.setWindowTitle(TextFor(title));
   box.setTextFormat(Qt::PlainText);
-  box.setText(TextFor(text));
+  box.setText(WithoutLongWords(TextFor(text)));
   if (style == forms::InformationBox) {
     box.setIcon(QMessageBox::Information);
   }
   box.setStandardButtons(QMessageBox::Ok);
   StandBeforeThePage(box);
+  // The title bar has buttons and an icon beside the title.
+  constexpr int TitleBarExtra = 120;
+  const QFontMetrics titleFont(QFontDatabase::systemFont(QFontDatabase::TitleFont));
+  auto* lines = qobject_cast<QGridLayout*>(box.layout());
+  lines->addItem(new QSpacerItem(titleFont.horizontalAdvance(box.windowTitle()) + TitleBarExtra, 0),
+                 lines->rowCount(), 0, 1, lines->columnCount());
   box.exec();
 }
 

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QElapsedTimer>
+#include <QPointer>
+#include <QScreen>
 #include <QTimer>
 #include <map>
 #include <memory>
@@ -40,6 +42,7 @@ class QtHost : public forms::Host {
   [[noreturn]] void End() override;
 
  private:
+  QScreen& Here() const;
   PageWindow* WindowOf(forms::Control& control);
   void StandBeforeThePage(QDialog& dialog);
   void DropLeftWindows();
@@ -48,6 +51,7 @@ class QtHost : public forms::Host {
   // Those whose page is gone. One of their widgets may be in the middle of an event.
   std::vector<std::unique_ptr<PageWindow>> left_;
   QTimer dropping_;
+  QPointer<QScreen> leftScreen_;  // that of the page hidden last
   Activation activation_;
   QElapsedTimer sinceFlush_;
 };

@@ -5,6 +5,7 @@
 #include <QPaintEvent>
 #include <QPainter>
 
+#include "desktop/look.h"
 #include "forms/picture_box.h"
 
 namespace clinorama::desktop {
@@ -24,25 +25,34 @@ void SurfaceView::ShowSoon() {
 
 void SurfaceView::ShowNow() { repaint(TakeChanged()); }
 
-// In logical pixels, with whatever a device pixel touches of them.
+// The surface's pixels to one of the toolkit's.
+double SurfaceView::Ratio() const { return picture_.Density() / ZoomOf(*this); }
+
+// In the toolkit's pixels, with whatever a pixel of the surface touches of them, scaled or not.
 QRect SurfaceView::TakeChanged() {
   const forms::PixelRect rect = picture_.TakeDirty();
   if (rect.Empty()) {
     return {};
   }
-  const double density = picture_.Density();
-  return QRectF(rect.X / density, rect.Y / density, rect.Width / density, rect.Height / density)
-      .toAlignedRect();
+  const double ratio = Ratio();
+  return QRectF(rect.X / ratio, rect.Y / ratio, rect.Width / ratio, rect.Height / ratio)
+      .toAlignedRect()
+      .adjusted(-1, -1, 1, 1);
 }
 
 void SurfaceView::paintEvent(QPaintEvent* event) {
   const forms::Raster& raster = picture_.Screen();
   QImage image(reinterpret_cast<const uchar*>(raster.Data()), raster.Width(), raster.Height(),
                QImage::Format_RGB32);
-  image.setDevicePixelRatio(picture_.Density());
   QPainter painter(this);
+  painter.setRenderHint(QPainter::SmoothPixmapTransform);
   painter.setClipRegion(event->region());
-  painter.drawImage(QPointF(0, 0), image);
+  // In whole pixels the view may be a trifle larger than the raster.
+  if (qRound(width() * Ratio()) > image.width() || qRound(height() * Ratio()) > image.height()) {
+    painter.fillRect(rect(), ColorFor(picture_.BackColor()));
+  }
+  painter.scale(1 / Ratio(), 1 / Ratio());
+  painter.drawImage(0, 0, image);
 }
 
 }  // namespace clinorama::desktop

@@ -8,7 +8,8 @@ class PictureBox;
 
 namespace clinorama::desktop {
 
-// Shows the screen picture of a surface.
+// Shows the screen picture of a surface, pixel by pixel as a rule; scaled where the page has come
+// to another screen than the one it was made for.
 class SurfaceView : public QWidget {
  public:
   SurfaceView(forms::PictureBox& picture, QWidget* parent);
@@ -22,6 +23,7 @@ class SurfaceView : public QWidget {
   void paintEvent(QPaintEvent* event) override;
 
  private:
+  double Ratio() const;
   QRect TakeChanged();
 
   forms::PictureBox& picture_;

@@ -26,7 +26,7 @@ namespace clinorama::desktop {
 namespace {
 
 // Logical pixels for the border of a button, and between its icon and caption.
-constexpr int ButtonBorder = 6;
+constexpr double ButtonBorder = 6;
 
 class LabelWidget : public QLabel {
  public:
@@ -79,53 +79,89 @@ class FrameWidget : public QGroupBox {
 
  protected:
   void paintEvent(QPaintEvent* /*event*/) override {
-    constexpr int CaptionLeft = 9;
-    constexpr int CaptionGap = 4;
-    constexpr double Rounding = 4;
+    const double zoom = ZoomOf(*this);
+    const int captionLeft = qRound(9 * zoom);
+    const int captionGap = qRound(4 * zoom);
+    const double rounding = 4 * zoom;
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const QFontMetrics metrics = painter.fontMetrics();
     const int top = metrics.height() / 2;
     // A frame that reaches a little below its page still shows its lower edge.
     const int bottom = std::min(height(), parentWidget()->height() - y());
-    const QRectF edge(0.5, top + 0.5, width() - 1, bottom - top - 1);
-    painter.setPen(palette().color(QPalette::Dark));
-    painter.drawRoundedRect(edge, Rounding, Rounding);
+    const int line = LineWidth(zoom);
+    const QRectF edge(line / 2.0, top + line / 2.0, width() - line, bottom - top - line);
+    painter.setPen(QPen(palette().color(QPalette::Dark), line));
+    painter.drawRoundedRect(edge, rounding, rounding);
     const QString caption = TextFor(frame_.Caption);
     if (caption.isEmpty()) {
       return;
     }
     const int captionWidth = metrics.horizontalAdvance(caption);
-    painter.fillRect(CaptionLeft - CaptionGap, 0, captionWidth + 2 * CaptionGap, metrics.height(),
+    painter.fillRect(captionLeft - captionGap, 0, captionWidth + 2 * captionGap, metrics.height(),
                      palette().color(QPalette::Window));
     painter.setPen(ColorFor(frame_.ForeColor));
-    painter.drawText(CaptionLeft, metrics.ascent(), caption);
+    painter.drawText(captionLeft, metrics.ascent(), caption);
   }
 
  private:
   const forms::Frame& frame_;
 };
 
+// A picture at any place of the screen's own pixels, which need not be one of the toolkit's. It is
+// made when it is first seen and dropped when it is hidden: of the pages of a manual only one is
+// seen.
+class ImageWidget : public QWidget {
+ public:
+  ImageWidget(const forms::Image& image, QWidget* parent) : QWidget(parent), image_(image) {
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+  }
+
+  void Place(double zoom) {
+    const double ratio = devicePixelRatioF();
+    const QRect pixels = PlaceOf(image_, zoom * ratio);
+    const QRect place = QRectF(pixels.x() / ratio, pixels.y() / ratio, pixels.width() / ratio,
+                               pixels.height() / ratio)
+                            .toAlignedRect();
+    corner_ = QPointF(pixels.topLeft()) / ratio - place.topLeft();
+    setGeometry(place);
+    const QSizeF size = QSizeF(pixels.size()) / ratio;
+    if (!image_.Visible) {
+      picture_ = QPixmap();
+    } else if (picture_.deviceIndependentSize() != size) {
+      picture_ = PictureFor(image_.Picture, size, ratio);
+    }
+    update();
+  }
+
+ protected:
+  void paintEvent(QPaintEvent* /*event*/) override { QPainter(this).drawPixmap(corner_, picture_); }
+
+ private:
+  const forms::Image& image_;
+  QPixmap picture_;
+  QPointF corner_;  // of the picture in the widget, in the toolkit's pixels
+};
+
 Qt::Alignment AlignmentFor(forms::Alignment alignment) {
   switch (alignment) {
     case forms::Alignment::Right:
-      return Qt::AlignRight | Qt::AlignTop;
+      return Qt::AlignRight;
     case forms::Alignment::Center:
-      return Qt::AlignHCenter | Qt::AlignTop;
+      return Qt::AlignHCenter;
     case forms::Alignment::Left:
       break;
   }
-  return Qt::AlignLeft | Qt::AlignTop;
+  return Qt::AlignLeft;
 }
 
 View ViewOf(forms::Label& label, QWidget& parent) {
   const bool clickable = label.Click.Bound() || label.DblClick.Bound();
   auto* widget = clickable ? new LabelWidget(label, &parent) : new QLabel(&parent);
   widget->setTextFormat(Qt::PlainText);
-  return {widget, [&label, widget] {
+  return {widget, [&label, widget](double zoom) {
             const bool bordered = label.Bordered;
-            widget->setFrameStyle(bordered ? int(QFrame::Panel) | int(QFrame::Sunken)
-                                           : int(QFrame::NoFrame));
+            widget->setFrameShape(bordered ? QFrame::StyledPanel : QFrame::NoFrame);
             widget->setAutoFillBackground(bordered);
             QPalette palette;
             palette.setColor(QPalette::WindowText, ColorFor(label.ForeColor));
@@ -133,12 +169,9 @@ View ViewOf(forms::Label& label, QWidget& parent) {
               palette.setColor(QPalette::Window, Qt::white);
             }
             widget->setPalette(palette);
-            widget->setFont(FontFor(label.Font));
-            Qt::Alignment alignment = AlignmentFor(label.Alignment);
-            if (bordered) {
-              alignment = (alignment & Qt::AlignHorizontal_Mask) | Qt::AlignVCenter;
-            }
-            widget->setAlignment(alignment);
+            widget->setFont(FontFor(label.Font, zoom));
+            widget->setAlignment(AlignmentFor(label.Alignment) |
+                                 (bordered || label.InMiddle ? Qt::AlignVCenter : Qt::AlignTop));
             widget->setText(TextFor(forms::VisibleText(label.Font, label.Caption)));
           }};
 }
@@ -148,8 +181,10 @@ View ViewOf(forms::TextBox& box, QWidget& parent) {
   widget->setDragEnabled(false);  // a drag runs an event loop of its own, inside the widget
   QObject::connect(widget, &QLineEdit::textEdited, widget,
                    [&box](const QString& text) { box.UserType(text.toStdString()); });
-  return {widget, [&box, widget] {
-            widget->setFont(FontFor(box.Font));
+  return {widget, [&box, widget](double zoom) {
+            widget->setFont(FontFor(box.Font, zoom));
+            const int margin = qRound(2 * zoom);
+            widget->setTextMargins(margin, 0, margin, 0);
             const QString text = TextFor(box.Text);
             if (widget->text() != text) {
               widget->setText(text);
@@ -161,18 +196,19 @@ View ViewOf(forms::CommandButton& button, QWidget& parent) {
   auto* widget = new ButtonWidget(&parent);
   widget->setFocusPolicy(Qt::StrongFocus);
   QObject::connect(widget, &QToolButton::clicked, widget, [&button] { button.UserClick(); });
-  return {widget, [&button, widget] {
-            widget->setFont(FontFor(button.Font));
+  return {widget, [&button, widget](double zoom) {
+            widget->setFont(FontFor(button.Font, zoom));
             widget->setText(TextFor(button.Caption));
             const bool captioned = !button.Caption().empty();
             widget->setToolButtonStyle(button.Picture.empty() ? Qt::ToolButtonTextOnly
                                        : captioned            ? Qt::ToolButtonTextUnderIcon
                                                               : Qt::ToolButtonIconOnly);
-            const QRect place = PlaceOf(button);
-            const int textHeight = captioned ? widget->fontMetrics().height() + ButtonBorder : 0;
+            const QSize place = PlaceOf(button, zoom).size();
+            const int border = qRound(ButtonBorder * zoom);
+            const int textHeight = captioned ? widget->fontMetrics().height() + border : 0;
             const int side =
-                std::min(place.width() - ButtonBorder, place.height() - textHeight - ButtonBorder);
-            const QSize size(std::max(side, 0), std::max(side, 0));
+                std::max(0, std::min(place.width(), place.height() - textHeight) - border);
+            const QSize size(side, side);
             widget->setIconSize(size);
             widget->setIcon(PictureFor(button.Picture, size, widget->devicePixelRatioF()));
           }};
@@ -184,7 +220,8 @@ View ViewOf(forms::OptionButton& option, QWidget& parent) {
   auto* widget = new OptionWidget(&parent);
   widget->setAutoExclusive(false);
   QObject::connect(widget, &QRadioButton::clicked, widget, [&option] { option.UserClick(); });
-  return {widget, [&option, widget] {
+  return {widget, [&option, widget](double zoom) {
+            widget->setFont(FontFor({}, zoom));
             widget->setText(TextFor(option.Caption));
             widget->setChecked(option.Value);
           }};
@@ -193,29 +230,24 @@ View ViewOf(forms::OptionButton& option, QWidget& parent) {
 View ViewOf(forms::CheckBox& box, QWidget& parent) {
   auto* widget = new QCheckBox(&parent);
   QObject::connect(widget, &QCheckBox::toggled, widget, [&box](bool on) { box.Value = on; });
-  return {widget, [&box, widget] { widget->setChecked(box.Value); }};
+  return {widget, [&box, widget](double /*zoom*/) { widget->setChecked(box.Value); }};
 }
 
 View ViewOf(forms::Frame& frame, QWidget& parent) {
   auto* widget = new FrameWidget(frame, &parent);
-  return {widget, [widget] { widget->update(); }};
+  return {widget, [widget](double zoom) {
+            widget->setFont(FontFor({}, zoom));
+            widget->update();
+          }};
 }
 
 View ViewOf(forms::Image& image, QWidget& parent) {
-  auto* widget = new QLabel(&parent);
-  widget->setAttribute(Qt::WA_TransparentForMouseEvents);
+  auto* widget = new ImageWidget(image, &parent);
   if (QFile words(QStringLiteral(":/%1.txt").arg(TextFor(image.Picture)));
       words.open(QIODevice::ReadOnly)) {
     widget->setAccessibleDescription(QString::fromUtf8(words.readAll()));
   }
-  // Rendered when it is first to be seen: of the pages of a manual most never are.
-  return {widget, [&image, widget] {
-            if (!image.Visible || !widget->pixmap(Qt::ReturnByValue).isNull()) {
-              return;
-            }
-            widget->setPixmap(
-                PictureFor(image.Picture, PlaceOf(image).size(), widget->devicePixelRatioF()));
-          }};
+  return {widget, [widget](double zoom) { widget->Place(zoom); }};
 }
 
 // The widget counts steps from the left end, whichever way the control's values run: its own
@@ -227,11 +259,13 @@ View ViewOf(forms::HScrollBar& bar, QWidget& parent) {
   widget->setPageStep(1);
   QObject::connect(widget, &QScrollBar::valueChanged, widget,
                    [&bar, sign](int steps) { bar.UserScroll(bar.Min + sign * steps); });
-  return {widget, [&bar, widget, sign] { widget->setValue(sign * (bar.Value - bar.Min)); }};
+  return {widget, [&bar, widget, sign](double /*zoom*/) {
+            widget->setValue(sign * (bar.Value - bar.Min));
+          }};
 }
 
 View ViewOf(forms::PictureBox& picture, QWidget& parent) {
-  return {new SurfaceView(picture, &parent), [] {}};
+  return {new SurfaceView(picture, &parent), [](double /*zoom*/) {}};
 }
 
 class ViewMaker final : public forms::ControlVisitor {
@@ -262,21 +296,21 @@ View MakeView(forms::Control& control, QWidget& parent) {
   return std::move(maker.Made);
 }
 
-QRect PlaceOf(const forms::Control& control) {
+QRect PlaceOf(const forms::Control& control, double zoom) {
   // A marker may be sent far off its surface; it is as invisible a little beyond.
-  const auto pixel = [](double twips) {
+  const auto pixel = [zoom](double twips) {
     constexpr double Far = 10000;
-    return static_cast<int>(std::lround(std::clamp(twips / forms::TwipsToPixel, -Far, Far)));
+    return qRound(std::clamp(twips / forms::TwipsToPixel * zoom, -Far, Far));
   };
   return {pixel(control.Left), pixel(control.Top), pixel(control.Width), pixel(control.Height)};
 }
 
-void SynchroniseView(const forms::Control& control, const View& view) {
-  view.Widget->setGeometry(PlaceOf(control));
+void SynchroniseView(const forms::Control& control, const View& view, double zoom) {
+  view.Widget->setGeometry(PlaceOf(control, zoom));
   view.Widget->setEnabled(control.Enabled);
   view.Widget->setToolTip(TextFor(control.ToolTipText));
   view.Widget->setAccessibleName(TextFor(control.SpokenName()));
-  view.Synchronise();
+  view.Synchronise(zoom);
   view.Widget->setVisible(control.Visible);
 }
 

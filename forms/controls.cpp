@@ -1,11 +1,11 @@
 #include "forms/controls.h"
 
 #include <algorithm>
-#include <cmath>
 #include <utility>
 
 #include "forms/application.h"
 #include "forms/picture_box.h"
+#include "forms/pixel_line.h"
 #include "forms/units.h"
 
 namespace clinorama::forms {
@@ -104,10 +104,11 @@ void Image::Move(double left, double top) {
   const auto& surface = dynamic_cast<const PictureBox&>(*Parent());
   // Both coordinates are mapped before the first is stored: a move that fails has no effect. The
   // picture starts at the pixel that holds the point, as a drawing there would.
-  const double x = std::floor(surface.LogicalX(left));
-  const double y = std::floor(surface.LogicalY(top));
-  Left = x * TwipsToPixel;
-  Top = y * TwipsToPixel;
+  const double density = surface.Density();
+  const int x = PixelOf(surface.LogicalX(left) * density);
+  const int y = PixelOf(surface.LogicalY(top) * density);
+  Left = x / density * TwipsToPixel;
+  Top = y / density * TwipsToPixel;
 }
 
 HScrollBar::HScrollBar(Container& parent, std::string name, const Rect& rect, int min, int max,

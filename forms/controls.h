@@ -25,7 +25,8 @@ class Label : public Control {
   Property<forms::Font> Font{*this, {}};
   Property<Color> ForeColor{*this, Black};
   Property<forms::Alignment> Alignment{*this, forms::Alignment::Left};
-  Property<bool> Bordered{*this, false};  // drawn as a field with a sunken border
+  Property<bool> Bordered{*this, false};  // drawn as a white field
+  Property<bool> InMiddle{*this, false};  // whether the text stands in the middle, not at the top
 
   Event Click;
   Event DblClick;

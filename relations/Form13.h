@@ -131,8 +131,8 @@ class Form13 : public forms::Page {
       Frame5,     "EixosRad2",      {900, 2100, 615, 615},
       "Radianos", "icons/radianos", "Graduar os eixos das abcissas em radianos."};
   forms::CommandButton ZerosSegunda{
-      Frame5,  "ZerosSegunda", {540, 3120, 615, 615},
-      "Zeros", "icons/zeros",  "Assinalar os zeros da segunda derivada."};
+      Frame5,  "ZerosSegunda",        {540, 3120, 615, 615},
+      "Zeros", "icons/zeros_segunda", "Assinalar os zeros da segunda derivada."};
   forms::CommandButton CorSegunda{
       Frame5, "CorSegunda", {120, 4200, 615, 615},
       "Cor",  "icons/cor",  "Mudar a cor do gráfico da segunda derivada da função."};

@@ -13,6 +13,8 @@ Form13::Form13() : Page("Form13", {120, 330, 15165, 11100}, "CLINORAMA") {
     legend->Font = {.Bold = true};
     legend->ForeColor = forms::Blue;
   }
+  Label3.InMiddle = true;  // level with the field beside them
+  Label5.InMiddle = true;
   for (forms::Frame* frame : {&Frame2, &Frame4, &Frame5}) {
     frame->ForeColor = forms::Blue;
   }

@@ -32,6 +32,10 @@ void Form12::SetLook() {
   for (forms::Label* value : {&Label2, &Label3, &Label6}) {
     value->Bordered = true;
     value->Alignment = forms::Alignment::Center;
+    value->Font = {.Size = 10.5, .Bold = true};  // to be read from the back of a class
+  }
+  for (forms::Label* caption : {&Label5, &Label1, &Label7}) {
+    caption->InMiddle = true;  // level with the field beside it
   }
   Label2.AccessibleName = "Valor da derivada à esquerda";
   Label3.AccessibleName = "Valor da derivada à direita";
