@@ -24,6 +24,8 @@ constexpr double PixelsToPoint = 96.0 / 72.0;
 // bold, as their strokes are a pixel wide at the least: that keeps them sharp. The letters "x" and
 // "y" would look like others then.
 constexpr int SmallestSmoothed = 10;
+// Smaller digits cannot be told apart.
+constexpr int SmallestDigits = 8;
 
 constexpr const char* ZoomProperty = "zoom";
 
@@ -100,6 +102,7 @@ QFont SurfaceFontFor(const forms::TextRun& run) {
   const bool letters = std::any_of(run.Text.begin(), run.Text.end(), [](char sign) {
     return (sign >= 'A' && sign <= 'Z') || (sign >= 'a' && sign <= 'z');
   });
+  chosen.setPixelSize(std::max(chosen.pixelSize(), SmallestDigits));
   if (chosen.pixelSize() < SmallestSmoothed && !letters) {
     chosen.setBold(false);
     chosen.setHintingPreference(QFont::PreferFullHinting);

@@ -8,6 +8,10 @@
 #include "forms/application.h"
 #include "shell/Form2.h"
 
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
+
 namespace {
 
 // The program has nothing to save and its handlers may stand deep on the stack, so it ends as it
@@ -34,9 +38,19 @@ void TellOfTheDisplay(QtMsgType type, const QMessageLogContext& /*context*/, con
   }
 }
 
+// Pictures are large on a large screen: their memory goes back as soon as they are dropped. By
+// itself the allocator begins to keep such blocks for later ones after a while.
+void GiveMemoryBack() {
+#ifdef __GLIBC__
+  constexpr int LargeBlock = 1 << 20;
+  mallopt(M_MMAP_THRESHOLD, LargeBlock);
+#endif
+}
+
 }  // namespace
 
 int main(int argc, char* argv[]) {
+  GiveMemoryBack();
   qInstallMessageHandler(TellOfTheDisplay);
   QApplication qt(argc, argv);
   clinorama::desktop::SetLook();

@@ -48,9 +48,10 @@ void SurfaceView::paintEvent(QPaintEvent* event) {
   painter.setRenderHint(QPainter::SmoothPixmapTransform);
   painter.setClipRegion(event->region());
   // In whole pixels the view may be a trifle larger than the raster.
-  if (qRound(width() * Ratio()) > image.width() || qRound(height() * Ratio()) > image.height()) {
-    painter.fillRect(rect(), ColorFor(picture_.BackColor()));
-  }
+  const QSizeF shown = QSizeF(image.size()) / Ratio();
+  const QColor ground = ColorFor(picture_.BackColor());
+  painter.fillRect(QRectF(shown.width() - 1, 0, width(), height()), ground);
+  painter.fillRect(QRectF(0, shown.height() - 1, width(), height()), ground);
   painter.scale(1 / Ratio(), 1 / Ratio());
   painter.drawImage(0, 0, image);
 }
