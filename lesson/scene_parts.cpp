@@ -22,7 +22,7 @@ std::unique_ptr<forms::Image> Form9::NewMarker(int index, const std::string& nam
       {"pictures/disco_verde", "Ponto X à esquerda"},
       {"pictures/anel_verde", "Início de X à direita"},
       {"pictures/anel_verde", "Início de X à esquerda"},
-      {"pictures/disco_vermelho", "Abcissa x à direita"},  // also the point of pages 2 to 4
+      {"pictures/disco_vermelho", ""},  // named by the scenes: it is not always the abscissa x
       {"pictures/disco_vermelho", "Abcissa x à esquerda"},
       {"pictures/anel_vermelho", "Início de x à direita"},
       {"pictures/anel_vermelho", "Início de x à esquerda"},
@@ -169,6 +169,7 @@ void Form9::PlaceAtStart(const Side& side) {
 }
 
 void Form9::MarcarPontoDireita() {
+  Image1(RightSide.Moving.OnAxisX).AccessibleName = "Abcissa x à direita";
   PlaceAtStart(RightSide);
   DrawCoordinates(RightSide.Start, FuncaoF(RightSide.Start));
   Picture1.DrawStyle = forms::Solid;

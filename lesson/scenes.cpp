@@ -52,6 +52,7 @@ void Form9::CenaCircunferencia() {
   DrawCurve(
       -2, 8, [root](double x) { return 4 * root - x; }, Picture1.ForeColor);
   PlaceMarker(5, 2 * root, 2 * root, QuadrantCorner);
+  Image1(5).AccessibleName = "Ponto de contacto";
 }
 
 // A vertical line that meets a parabola once and is no tangent.
@@ -62,6 +63,7 @@ void Form9::CenaParabola() {
   DrawCurve(-10, 10, Parabola, Picture1.ForeColor, [](double y) { return y > -9 && y < 9; });
   Picture1.Line(4, 9, 4, -9);
   PlaceMarker(5, 4, Parabola(4), MarginCorner);
+  Image1(5).AccessibleName = "Ponto de intersecção";
 }
 
 // A tangent that crosses its curve. The scale is set because page 5, which has another one, leads
@@ -73,6 +75,7 @@ void Form9::CenaTangenteDivide() {
   Picture1.DrawMode = forms::CopyPen;
   DrawBoundedCurve(-8, 8, Cubic);
   PlaceMarker(5, 0, 0, MarginCorner);
+  Image1(5).AccessibleName = "Ponto P";
   Picture1.PrintAt(-0.4, -0.4, "P");
   DrawCurve(
       -5, 5, [](double x) { return -2 * x / 3; }, Picture1.ForeColor);

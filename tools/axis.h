@@ -18,9 +18,9 @@ struct Mark {
 std::vector<Mark> MarksOf(const Interval& interval, const Graduation& graduation, double unit,
                           double space);
 
-// Numbers are drawn and not written, so that they look alike wherever the picture is shown, and a
-// page of the manual may hold it: the height and the width of one, in pixels, and its strokes as
-// the data of a path, from its upper left corner.
+// Numbers, and the names x and y, are drawn and not written, so that they look alike wherever the
+// picture is shown, and a page of the manual may hold it: the height and the width of one, in
+// pixels, and its strokes as the data of a path, from its upper left corner.
 constexpr double NumberHeight = 6;
 double NumberWidth(const std::string& number);
 std::string NumberStrokes(const std::string& number, const Point& corner);

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "base/failure.h"
+#include "base/number_text.h"
 #include "engine/clsEquation.h"
 
 namespace clinorama::tools {
@@ -18,6 +19,7 @@ constexpr int Halvings = 40;          // from a sample to the next, until nothin
 constexpr double SmallChange = 1;     // pixels from a sample to the next that need no closer look
 constexpr double ShortestLine = 0.5;  // pixels; a single point of another value is no line
 constexpr double Precision = 0.03;    // pixels by which a simplified line may be off
+constexpr int Decimals = 6;           // of the abscissas of jumps and of ends of domains
 
 // A function or a derivative of it, as the program computes it.
 class Function {
@@ -79,20 +81,16 @@ class Tracer {
 
   void Visit(double x) {
     const Sample next = At(x);
-    if (last_.Y && next.Y) {
-      if (!Joined(last_, next)) {
-        Break(last_, next);
-      }
-    } else if (last_.Y || next.Y) {
-      Break(last_, next);
+    if (last_ && !GoesOn(*last_, next)) {
+      Break(*last_, next);
     }
     Add(next);
     last_ = next;
   }
 
-  std::vector<Polyline> Take() {
+  Curve Take() {
     EndLine();
-    return std::move(lines_);
+    return {std::move(lines_), std::move(ends_)};
   }
 
  private:
@@ -103,6 +101,9 @@ class Tracer {
     const auto seen = [this](double y) { return std::clamp(y, window_.From, window_.To); };
     return std::abs(seen(*a.Y) - seen(*b.Y)) * frame_.UnitY();
   }
+
+  // Whether neither a branch nor a gap of the domain ends between two samples.
+  bool GoesOn(const Sample& a, const Sample& b) { return a.Y && b.Y ? Joined(a, b) : !a.Y && !b.Y; }
 
   // Whether the change becomes small on the way, however steep it is.
   bool Joined(Sample a, Sample b) {
@@ -136,12 +137,36 @@ class Tracer {
           jump ? Change(a, middle) < Change(middle, b) : middle.Y.has_value() == a.Y.has_value();
       (onTheLeft ? a : b) = middle;
     }
-    if (left.Y && Joined(left, a)) {
+    const bool endsLeft = left.Y && Joined(left, a);
+    const bool endsRight = right.Y && Joined(b, right);
+    if (endsLeft) {
       Add(a);
     }
     EndLine();
-    if (right.Y && Joined(b, right)) {
+    if (endsRight) {
       Add(b);
+    }
+    AddEnds(endsLeft ? a.Y : std::nullopt, endsRight ? b.Y : std::nullopt, (a.X + b.X) / 2);
+  }
+
+  // The ends of two branches where they come nearest to each other, and the point between them.
+  void AddEnds(std::optional<double> left, std::optional<double> right, double nearly) {
+    const double x = base::Round(nearly, Decimals);
+    const std::optional<double> y = function_.At(x);
+    for (const std::optional<double>& end : {left, right, y}) {
+      if (end && window_.Holds(*end)) {
+        const bool meets = y && std::abs(*y - *end) * frame_.UnitY() < SmallChange;
+        AddEnd({.Place = {frame_.Across(x), frame_.Down(meets ? *y : *end)}, .Open = !meets});
+      }
+    }
+  }
+
+  void AddEnd(const End& end) {
+    const bool known = std::any_of(ends_.begin(), ends_.end(), [&](const End& other) {
+      return std::hypot(other.Place.X - end.Place.X, other.Place.Y - end.Place.Y) < SmallChange;
+    });
+    if (!known) {
+      ends_.push_back(end);
     }
   }
 
@@ -199,10 +224,11 @@ class Tracer {
   Function function_;
   Frame frame_;
   Interval window_;
-  Sample last_;
+  std::optional<Sample> last_;
   std::optional<Point> previous_;  // of the line that is being followed, in the window or not
   Polyline line_;
   std::vector<Polyline> lines_;
+  std::vector<End> ends_;
 };
 
 double Distance(const Point& point, const Point& a, const Point& b) {
@@ -236,11 +262,11 @@ void Simplify(const Polyline& line, std::size_t first, std::size_t last, Polylin
 
 }  // namespace
 
-std::vector<Polyline> CurveOf(const Graph& graph) {
+Curve CurveOf(const Graph& graph, const Interval& range) {
   Tracer tracer(graph);
   const int samples = graph.Width * SamplesPerPixel;
   for (int i = 0; i <= samples; ++i) {
-    tracer.Visit(graph.X.From + graph.X.Length() * i / samples);
+    tracer.Visit(range.From + range.Length() * i / samples);
   }
   return tracer.Take();
 }

@@ -4,14 +4,21 @@
 //
 // Each line of the list (or of the standard input) asks for one picture:
 //
-//   file | expression | order of the derivative | x range | y range | size | graduation
+//   file | expression | order of the derivative | x range | y range | size | graduation | additions
 //
-// such as  graphs/sen.svg | sen(x) | 0 | -7 7 | -2 2 | 220 150 | pi 1
+// such as  graphs/arctg.svg | arctg(x) | 0 | -4 4 | -2 2 | 220 150 | 1 pi | y=pi/2; y=-pi/2
 //
 // The file is told from the folder of the list. Sizes are in pixels. The graduation is a step for
 // the x axis and one for the y axis: a number, "pi" for halves of pi, or nothing, as it fits. Empty
-// lines and those that begin with # are passed over.
+// lines and those that begin with # are passed over. The additions stand between semicolons:
+//
+//   x=0, y=pi/2               an asymptote, dashed
+//   ends                      discs and rings where the curve jumps or ends
+//   inverse tg(x) -pi/2 pi/2  another curve between two abscissas, and the line y = x; this asks
+//   for
+//                             ranges with the same unit on both axes
 
+#include <cmath>
 #include <exception>
 #include <filesystem>
 #include <fstream>
@@ -28,10 +35,10 @@
 namespace clinorama::tools {
 namespace {
 
-std::vector<std::string> FieldsOf(const std::string& line) {
+std::vector<std::string> FieldsOf(const std::string& line, char separator) {
   std::vector<std::string> fields;
   std::istringstream in(line);
-  for (std::string field; std::getline(in, field, '|');) {
+  for (std::string field; std::getline(in, field, separator);) {
     const std::size_t first = field.find_first_not_of(" \t");
     const std::size_t last = field.find_last_not_of(" \t\r");
     fields.push_back(first == std::string::npos ? "" : field.substr(first, last - first + 1));
@@ -68,10 +75,45 @@ Graduation GraduationFrom(const std::string& word) {
   return {.Step = step};
 }
 
+// An expression without x, such as -pi/2.
+double ValueOf(const std::string& expression) {
+  clsEquation equation;
+  equation.Equation(expression);
+  equation.Solve();
+  return equation.Solution();
+}
+
+void Add(Graph& graph, const std::string& addition) {
+  std::istringstream words(addition);
+  std::string kind;
+  words >> kind;
+  if (kind == "ends") {
+    graph.ShowsEnds = true;
+  } else if (kind == "inverse") {
+    std::string expression;
+    std::string from;
+    std::string to;
+    words >> expression >> from >> to;
+    graph.Inverse = {.Expression = expression, .X = {ValueOf(from), ValueOf(to)}};
+  } else if (kind.rfind("x=", 0) == 0 || kind.rfind("y=", 0) == 0) {
+    graph.Asymptotes.push_back({.Vertical = kind.front() == 'x', .Value = ValueOf(kind.substr(2))});
+  } else {
+    throw std::runtime_error("not an addition: " + addition);
+  }
+}
+
+// A curve and its inverse are each other's image in y = x only where both units are the same.
+void CheckUnits(const Graph& graph) {
+  const Frame frame(graph);
+  if (graph.Inverse && std::abs(frame.UnitX() / frame.UnitY() - 1) > 0.01) {
+    throw std::runtime_error("the units of the axes differ");
+  }
+}
+
 Graph GraphFrom(const std::string& line) {
-  const std::vector<std::string> fields = FieldsOf(line);
-  if (fields.size() < 6 || fields.size() > 7) {
-    throw std::runtime_error("not six or seven fields");
+  const std::vector<std::string> fields = FieldsOf(line, '|');
+  if (fields.size() < 6 || fields.size() > 8) {
+    throw std::runtime_error("not six to eight fields");
   }
   Graph graph;
   graph.File = fields[0];
@@ -89,6 +131,10 @@ Graph GraphFrom(const std::string& line) {
   steps >> x >> y;
   graph.GraduationX = GraduationFrom(x);
   graph.GraduationY = GraduationFrom(y);
+  for (const std::string& addition : FieldsOf(fields.size() > 7 ? fields[7] : "", ';')) {
+    Add(graph, addition);
+  }
+  CheckUnits(graph);
   return graph;
 }
 

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <optional>
 #include <string>
+#include <vector>
 
 namespace clinorama::tools {
 
@@ -17,6 +19,18 @@ struct Graduation {
   bool InPi = false;  // in halves of pi
 };
 
+// A line parallel to an axis that the curve approaches.
+struct Asymptote {
+  bool Vertical = false;
+  double Value = 0;  // of x where it is vertical, of y where not
+};
+
+// The inverse of a function, or of a part of it.
+struct InverseCurve {
+  std::string Expression;
+  Interval X;
+};
+
 // A picture of a graph, as it is asked for.
 struct Graph {
   std::string File;
@@ -28,6 +42,9 @@ struct Graph {
   int Height = 0;
   Graduation GraduationX;
   Graduation GraduationY;
+  std::vector<Asymptote> Asymptotes;
+  bool ShowsEnds = false;               // with discs and rings, where the curve breaks
+  std::optional<InverseCurve> Inverse;  // shown with the line y = x
 };
 
 // A place in the picture: pixels from the upper left corner.

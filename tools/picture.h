@@ -10,8 +10,8 @@ namespace clinorama::tools {
 std::string Length(double pixels);
 std::string Place(const Point& point);
 
-// The picture of a graph as a document of SVG Tiny 1.2: axes with arrow heads, marks and numbers,
-// and the curve. Throws ErroInterpretador for an expression that cannot be evaluated.
+// The picture of a graph as a document of SVG Tiny 1.2: a grid, axes with arrow heads, names, marks
+// and numbers, and the curve. Throws ErroInterpretador for an expression that cannot be evaluated.
 std::string PictureOf(const Graph& graph);
 
 }  // namespace clinorama::tools

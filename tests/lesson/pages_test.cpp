@@ -110,6 +110,7 @@ const PageRow Pages[] = {
 struct Marker {
   int Index;
   double X, Y;
+  std::string SpokenName = {};  // empty: the same on all pages
 };
 const double Root = std::sqrt(2);
 const double Fa = std::sqrt(48) - 1, Fr = std::sqrt(63) - 1, Fl = std::sqrt(21.75) - 1;
@@ -117,10 +118,16 @@ const double Fa = std::sqrt(48) - 1, Fr = std::sqrt(63) - 1, Fl = std::sqrt(21.7
 // The visible markers with the points that they show, of a page and those after it.
 const std::map<int, std::vector<Marker>> Markers = {
     {1, {}},
-    {2, {{5, 2 * Root + 0.12, 2 * Root - 0.12}}},  // beside the point of contact
-    {3, {{5, 4, 1}}},
-    {4, {{5, 0, 0}}},
-    {5, {{0, 4, Fa}, {1, 7, Fr}, {5, 7, 0}, {9, 4, 0}, {11, 0, Fa}, {12, 0, Fr}}},
+    {2, {{5, 2 * Root + 0.12, 2 * Root - 0.12, "Ponto de contacto"}}},  // it stands a little beside
+    {3, {{5, 4, 1, "Ponto de intersecção"}}},
+    {4, {{5, 0, 0, "Ponto P"}}},
+    {5,
+     {{0, 4, Fa},
+      {1, 7, Fr},
+      {5, 7, 0, "Abcissa x à direita"},
+      {9, 4, 0},
+      {11, 0, Fa},
+      {12, 0, Fr}}},
     {6, {{1, 7, Fr}, {5, 7, 0}, {12, 0, Fr}}},
     {8, {}},
     {10, {{0, 4, Fa}, {2, 1.5, Fl}, {6, 1.5, 0}, {9, 4, 0}, {11, 0, Fa}, {14, 0, Fl}}},
@@ -145,10 +152,13 @@ class PagesTest : public LessonTest {
  protected:
   void ExpectAt(const std::vector<Marker>& markers) {
     const double corner = page.Picture1.ScaleWidth() == 11 ? 0.12 : 0.24;
-    for (const auto& [index, x, y] : markers) {
+    for (const auto& [index, x, y, name] : markers) {
       const forms::Image& image = page.Image1(index);
       EXPECT_EQ(image.Left / 15, std::floor(page.Picture1.LogicalX(x - corner))) << index;
       EXPECT_EQ(image.Top / 15, std::floor(page.Picture1.LogicalY(y + corner))) << index;
+      if (!name.empty()) {
+        EXPECT_EQ(image.SpokenName(), name);
+      }
     }
   }
 
