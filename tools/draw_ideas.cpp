@@ -110,7 +110,7 @@ void DrawSemiSecants(Studio& studio) {
   const std::string function = page.Função1.Text();
   const Point fixed = {PointA, ValueOf(function, PointA)};
 
-  Strip strip(4, 554, 112, {-1, 6.2}, {-1.2, 4.6});
+  Strip strip(4, 554, 96, {-1, 6.2}, {-0.9, 4.2});
   std::vector<std::string> values;
   double x = PointA + 3;  // where the walk begins; it takes 100 steps for a unit
   studio.Watch(
@@ -143,7 +143,7 @@ void DrawTangents(Studio& studio) {
   for (const double x : places) {
     steps.push_back(static_cast<int>(std::lround((x - Start) / Step)) + 1);
   }
-  Strip strip(3, 554, 128, {-1, 7.4}, {-1.2, 4.8});
+  Strip strip(3, 554, 114, {-1, 7.4}, {-0.9, 4.5});
   std::vector<std::string> values;
   studio.Watch(
       steps, [&] { page.Calcular.UserClick(); },
@@ -215,7 +215,7 @@ void DrawStack(const Stack& stack) {
     top += part.Height + Gap;
   }
   std::vector<double> numbers;
-  for (double x = -8; x <= 8; x += stack.X.Length() > 10 ? 2 : 1) {
+  for (double x = -8; x <= 8; x += stack.X.Length() < 10 ? 1 : 2) {
     if (x != 0) {
       numbers.push_back(x);
     }
@@ -247,27 +247,27 @@ const std::vector<Stack>& Stacks() {
        drawn,
        176,
        {-5, 5},
-       {{1, 74, {-1.2, 3}}, {2, 74, {-1.2, 3}}}},
+       {{1, 53, {-1.2, 3}}, {2, 53, {-1.2, 3}}}},
       {"ideia_salto.svg",
        "int(x)",
        drawn,
        176,
        {-5, 5},
-       {{1, 74, {-2.1, 2.1}}, {2, 74, {-2.1, 2.1}}}},
-      {"ideia_bico.svg", "abs(x)", drawn, 176, {-5, 5}, {{1, 74, {-1.2, 3}}, {2, 74, {-2.1, 2.1}}}},
+       {{1, 53, {-2.1, 2.1}}, {2, 53, {-2.1, 2.1}}}},
+      {"ideia_bico.svg", "abs(x)", drawn, 176, {-5, 5}, {{1, 53, {-1.2, 3}}, {2, 53, {-2.1, 2.1}}}},
       {"ideia_colorir1.svg",
        Initial,
        signs,
        430,
        {-7.3, 7.3},
-       {{1, 130, {-4, 4}}, {2, 110, {-2.6, 3.4}}}},
+       {{1, 120, {-4, 4}}, {2, 100, {-2.6, 3.4}}}},
       {"ideia_colorir2.svg",
        Initial,
        {&Form13::ColocarCoresFunção2, &Form13::ColocarCoresPrimeira2, &Form13::ColocarCoresSegunda,
         &Form13::InflexõesFunção, &Form13::ZerosSegunda},
        430,
        {-7.3, 7.3},
-       {{1, 100, {-4, 4}}, {2, 80, {-2.6, 3.4}}, {3, 80, {-3.8, 3.8}}}},
+       {{1, 84, {-4, 4}}, {2, 68, {-2.6, 3.4}}, {3, 68, {-3.8, 3.8}}}},
       {"ideia_bolas.svg",
        Initial,
        {&Form13::DesenharGráfico, &Form13::DesenharPrimeira, &Form13::DesenharSegunda,
@@ -275,7 +275,7 @@ const std::vector<Stack>& Stacks() {
         &Form13::ZerosSegunda},
        330,
        {-7.3, 7.3},
-       {{1, 100, {-4, 4}}, {2, 80, {-2.6, 3.4}}, {3, 80, {-3.8, 3.8}}}},
+       {{1, 86, {-4, 4}}, {2, 66, {-2.6, 3.4}}, {3, 66, {-3.8, 3.8}}}},
       {"comentarios_cubica.svg",
        "x^3/4-x",
        {&Form13::ColocarCoresFunção, &Form13::ColocarCoresPrimeira1, &Form13::ColocarCoresSegunda,
