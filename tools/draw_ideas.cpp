@@ -17,7 +17,6 @@
 #include <utility>
 #include <vector>
 
-#include "forms/application.h"
 #include "relations/Form13.h"
 #include "tools/recording.h"
 #include "tools/sheet.h"
@@ -27,7 +26,6 @@
 namespace clinorama::tools {
 namespace {
 
-using forms::The;
 using Button = forms::CommandButton Form13::*;
 
 constexpr double CurveWidth = 2.4;       // pixels
@@ -103,8 +101,8 @@ class Strip {
 // Three semi-secants at the right of the initial point, and the semi-tangent.
 void DrawSemiSecants(Studio& studio) {
   constexpr double PointA = 2;  // the page's initial abscissa
-  auto& page = The<Form12>();
-  page.Show();
+  const Opened<Form12> opened;
+  Form12& page = opened.Page();
   const Recording recording(page.Picture1);
   page.DesenharGráfico.UserClick();
   const std::string function = page.Função1.Text();
@@ -125,7 +123,6 @@ void DrawSemiSecants(Studio& studio) {
   values.push_back(page.Label3.Caption());
   WriteIfNew("manual/graphs/ideia_semi_secantes.svg", strip.Text());
   WriteValues("manual/graphs/ideia_semi_secantes.json", values);
-  page.UserClose();
 }
 
 // The tangent where the graph grows, at a maximum, and where the graph falls.
@@ -133,8 +130,8 @@ void DrawTangents(Studio& studio) {
   constexpr double Start = -12;
   constexpr double Step = 0.001;
   const std::vector<double> places = {2, 3.673, 5};
-  auto& page = The<Form12>();
-  page.Show();
+  const Opened<Form12> opened;
+  Form12& page = opened.Page();
   const Recording recording(page.Picture1);
   page.DesenharGráfico.UserClick();
   const std::string function = page.Função1.Text();
@@ -154,7 +151,6 @@ void DrawTangents(Studio& studio) {
       });
   WriteIfNew("manual/graphs/ideia_tangentes.svg", strip.Text());
   WriteValues("manual/graphs/ideia_tangentes.json", values);
-  page.UserClose();
 }
 
 // One of the windows of the relations page in a picture: how high it is and what it shows.
@@ -200,8 +196,8 @@ void DrawVerticals(Sheet& sheet, const std::vector<Panel>& panels, const std::ve
 }
 
 void DrawStack(const Stack& stack) {
-  auto& page = The<Form13>();
-  page.Show();
+  const Opened<Form13> opened;
+  Form13& page = opened.Page();
   page.Função1.UserType(stack.Expression);
   const Recording recordings[] = {Recording(page.Picture1(1)), Recording(page.Picture1(3)),
                                   Recording(page.Picture1(5))};
@@ -231,7 +227,6 @@ void DrawStack(const Stack& stack) {
     sheet.Draw(panels[i], traces, CurveWidth);
   }
   WriteIfNew(std::string("manual/graphs/") + stack.File, sheet.Text());
-  page.UserClose();
 }
 
 constexpr const char* Initial = "x*(1-cos(x))/2";
@@ -311,8 +306,8 @@ void DrawExample(const Example& example, int number) {
   constexpr double Large = 150;
   constexpr double Small = 73;
   constexpr double TextRoom = 16;
-  auto& page = The<Form13>();
-  page.Show();
+  const Opened<Form13> opened;
+  Form13& page = opened.Page();
   page.Função1.UserType(example.Expression);
   const Recording function(page.Picture1(1));
   const Recording first(page.Picture1(3));
@@ -340,7 +335,6 @@ void DrawExample(const Example& example, int number) {
   };
   drawSmall(first, example.First, "_primeira.svg");
   drawSmall(second, example.Second, "_segunda.svg");
-  page.UserClose();
 }
 
 void DrawAll() {

@@ -1,5 +1,6 @@
 #include "tools/recording.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdlib>
 #include <stdexcept>
@@ -22,6 +23,12 @@ bool Near(const Trace& trace, const Point& point) {
              : across < NearAcross && std::abs(point.Y - last.Y) < NearUpwards;
 }
 
+// Whether two lines are drawn one over the other.
+bool SamePlace(const Trace& a, const Trace& b) {
+  return std::equal(a.Points.begin(), a.Points.end(), b.Points.begin(), b.Points.end(),
+                    [](const Point& p, const Point& q) { return p.X == q.X && p.Y == q.Y; });
+}
+
 }  // namespace
 
 Recording::Recording(forms::Surface& surface) : surface_(surface) {
@@ -30,9 +37,7 @@ Recording::Recording(forms::Surface& surface) : surface_(surface) {
 
 std::vector<Trace> Recording::Now() const {
   std::vector<Trace> traces = traces_;
-  if (passing_) {
-    traces.push_back(*passing_);
-  }
+  traces.insert(traces.end(), passing_.begin(), passing_.end());
   return traces;
 }
 
@@ -41,7 +46,7 @@ void Recording::Take(const forms::DrawingOperation& operation) {
   switch (operation.What) {
     case Kind::Clear:
       traces_.clear();
-      passing_.reset();
+      passing_.clear();
       break;
     case Kind::Point:
       TakePoint(operation);
@@ -69,19 +74,19 @@ void Recording::TakeLine(const forms::DrawingOperation& operation) {
   Trace line = {Trace::Kind::Line,
                 operation.Pen,
                 {{operation.X1, operation.Y1}, {operation.X2, operation.Y2}}};
-  switch (operation.DrawMode) {
-    case forms::NotMergePen:
-      passing_ = line;
-      return;
-    case forms::InvertPixel:
-      passing_.reset();
-      return;
-    default:
-      break;
+  const bool dotted = operation.DrawStyle == forms::Dotted;
+  line.What = dotted ? Trace::Kind::Guide : Trace::Kind::Line;
+  if (operation.DrawMode == forms::NotMergePen) {
+    line.Pen = forms::Black;
+    passing_.push_back(line);
+    return;
   }
-  if (operation.DrawStyle == forms::Dotted) {
-    line.What = Trace::Kind::Guide;
-  } else if (operation.Pen == forms::Black) {
+  if (operation.DrawMode == forms::InvertPixel) {
+    passing_.clear();
+    std::erase_if(traces_, [&](const Trace& trace) { return SamePlace(trace, line); });
+    return;
+  }
+  if (!dotted && operation.Pen == forms::Black) {
     return;  // of an axis
   }
   traces_.push_back(line);

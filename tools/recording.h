@@ -1,9 +1,11 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
 
+#include "forms/application.h"
 #include "forms/host.h"
 #include "forms/surface.h"
 #include "tools/graph.h"
@@ -21,6 +23,21 @@ struct Trace {
   Kind What = Kind::Curve;
   forms::Color Pen;
   std::vector<Point> Points;
+};
+
+// A page that is shown as long as this lives. What takes down its drawings is to be made after it.
+template <class Kind>
+class Opened {
+ public:
+  Opened() { page_.Show(); }
+  ~Opened() { page_.UserClose(); }
+  Opened(const Opened&) = delete;
+  Opened& operator=(const Opened&) = delete;
+
+  Kind& Page() const { return page_; }
+
+ private:
+  Kind& page_ = forms::The<Kind>();
 };
 
 // Takes down what is drawn on a surface of the program. The axes are left out: each picture has its
@@ -42,7 +59,7 @@ class Recording {
 
   forms::Surface& surface_;
   std::vector<Trace> traces_;
-  std::optional<Trace> passing_;
+  std::vector<Trace> passing_;  // the figure of a motion, which inverts white to black
 };
 
 // A machine without windows and without a clock, on which a picture can be taken in the middle of a
