@@ -108,8 +108,8 @@ void DrawWider(QPainter& painter, const Drawn& drawn, double scale) {
       }
     }
     const double width = dots ? DotWidth : trace.What == Trace::Kind::Line ? LineWidth : CurveWidth;
-    painter.setPen(QPen(QColor(trace.Pen.Rgb), width / scale, Qt::SolidLine, Qt::RoundCap,
-                        Qt::RoundJoin));
+    painter.setPen(
+        QPen(QColor(trace.Pen.Rgb), width / scale, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter.drawPath(path);
   }
 }

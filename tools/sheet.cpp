@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <optional>
-#include <utility>
+#include <map>
+#include <string>
 
 #include "base/number_text.h"
 #include "tools/axis.h"
@@ -86,9 +86,11 @@ std::string CloudIn(const Panel& panel, const std::vector<Point>& points) {
   return path;
 }
 
-// The part of a segment that the panel shows; nothing where it shows none.
-std::optional<std::pair<Point, Point>> Clipped(const Panel& panel, const Point& a, const Point& b) {
-  double from = 0;
+// The part of a line that the panel shows.
+std::string SegmentIn(const Panel& panel, const Trace& line) {
+  const Point& a = line.Points.front();
+  const Point& b = line.Points.back();
+  double from = 0;  // of the way from a to b, as the next
   double to = 1;
   const auto cut = [&](double start, double change, const Interval& interval) {
     if (change == 0) {
@@ -103,8 +105,10 @@ std::optional<std::pair<Point, Point>> Clipped(const Panel& panel, const Point& 
   if (!cut(a.X, b.X - a.X, panel.X) || !cut(a.Y, b.Y - a.Y, panel.Y)) {
     return {};
   }
-  const auto at = [&](double t) { return Point{a.X + t * (b.X - a.X), a.Y + t * (b.Y - a.Y)}; };
-  return std::pair(at(from), at(to));
+  const auto at = [&](double part) {
+    return Place(panel.Place({a.X + part * (b.X - a.X), a.Y + part * (b.Y - a.Y)}));
+  };
+  return "M" + at(from) + "L" + at(to);
 }
 
 }  // namespace
@@ -146,14 +150,19 @@ void Sheet::DrawNumbers(const Panel& panel, const std::vector<Trace>& traces,
   constexpr double Air = 2;  // pixels kept free around a number
   const double height = NumberHeight * NumberScale;
   const auto crossed = [&](const Box& box) {
-    return std::any_of(traces.begin(), traces.end(), [&](const Trace& trace) {
-      return trace.What != Trace::Kind::Guide &&
-             std::any_of(trace.Points.begin(), trace.Points.end(), [&](const Point& point) {
-               const Point place = panel.Place(point);
-               return place.X > box.Left - Air && place.X < box.Left + box.Width + Air &&
-                      place.Y > box.Top - Air && place.Y < box.Top + height + Air;
-             });
-    });
+    const bool byVertical =
+        std::any_of(verticals_.begin(), verticals_.end(), [&](const Vertical& vertical) {
+          return vertical.X > box.Left - Air && vertical.X < box.Left + box.Width + Air &&
+                 vertical.Top < box.Top + height + Air && vertical.Bottom > box.Top - Air;
+        });
+    return byVertical || std::any_of(traces.begin(), traces.end(), [&](const Trace& trace) {
+             return trace.What != Trace::Kind::Guide &&
+                    std::any_of(trace.Points.begin(), trace.Points.end(), [&](const Point& point) {
+                      const Point place = panel.Place(point);
+                      return place.X > box.Left - Air && place.X < box.Left + box.Width + Air &&
+                             place.Y > box.Top - Air && place.Y < box.Top + height + Air;
+                    });
+           });
   };
   for (const double x : numbers) {
     const std::string number = base::NumberText(x);
@@ -174,51 +183,27 @@ void Sheet::DrawNumbers(const Panel& panel, const std::vector<Trace>& traces,
 }
 
 void Sheet::Draw(const Panel& panel, const std::vector<Trace>& traces, double width) {
-  // Those of one kind and colour are one path. Dots lie above the curves.
-  std::vector<std::pair<std::string, std::string>> curves;
-  std::ostringstream above;
+  // All that has one colour is one path.
+  const auto drawClouds = [&](Trace::Kind kind, double pen) {
+    std::map<std::string, std::string> paths;
+    for (const Trace& trace : traces) {
+      if (trace.What == kind) {
+        paths[ShadeOf(trace.Pen)] += CloudIn(panel, trace.Points);
+      }
+    }
+    for (const auto& [color, path] : paths) {
+      Stroke(path, color, pen);
+    }
+  };
+  drawClouds(Trace::Kind::Curve, width);
   for (const Trace& trace : traces) {
-    const std::string color = ShadeOf(trace.Pen);
-    if (trace.What == Trace::Kind::Curve || trace.What == Trace::Kind::Dot) {
-      const std::string path = CloudIn(panel, trace.Points);
-      if (path.empty()) {
-        continue;
-      }
-      if (trace.What == Trace::Kind::Dot) {
-        above << "  <path d=\"" << path << "\" fill=\"none\" stroke=\"" << color
-              << "\" stroke-width=\"" << DotWidth
-              << "\" stroke-linecap=\"round\" stroke-linejoin=\"round\"/>\n";
-        continue;
-      }
-      const auto same = std::find_if(curves.begin(), curves.end(),
-                                     [&](const auto& curve) { return curve.first == color; });
-      if (same != curves.end()) {
-        same->second += path;
-      } else {
-        curves.emplace_back(color, path);
-      }
+    if (trace.What == Trace::Kind::Line) {
+      Stroke(SegmentIn(panel, trace), ShadeOf(trace.Pen), LineWidth);
+    } else if (trace.What == Trace::Kind::Guide) {
+      Stroke(SegmentIn(panel, trace), Pale, GuideWidth, Dashes);
     }
   }
-  for (const auto& [color, path] : curves) {
-    Stroke(path, color, width);
-  }
-  for (const Trace& trace : traces) {
-    if (trace.What != Trace::Kind::Line && trace.What != Trace::Kind::Guide) {
-      continue;
-    }
-    const auto seen = Clipped(panel, trace.Points[0], trace.Points[1]);
-    if (!seen) {
-      continue;
-    }
-    const std::string path =
-        "M" + Place(panel.Place(seen->first)) + "L" + Place(panel.Place(seen->second));
-    if (trace.What == Trace::Kind::Guide) {
-      Stroke(path, Pale, GuideWidth, Dashes);
-    } else {
-      Stroke(path, ShadeOf(trace.Pen), LineWidth);
-    }
-  }
-  out_ << above.str();
+  drawClouds(Trace::Kind::Dot, DotWidth);
 }
 
 void Sheet::DrawDot(const Point& place, forms::Color color) {
@@ -226,6 +211,7 @@ void Sheet::DrawDot(const Point& place, forms::Color color) {
 }
 
 void Sheet::DrawVertical(double x, double top, double bottom) {
+  verticals_.push_back({x, std::min(top, bottom), std::max(top, bottom)});
   Stroke("M" + Place({x, top}) + "V" + Length(bottom), Pale, GuideWidth, Dashes);
 }
 
@@ -244,6 +230,9 @@ std::string Sheet::Text() const {
 
 void Sheet::Stroke(const std::string& path, const std::string& color, double width,
                    const std::string& dashes) {
+  if (path.empty()) {
+    return;
+  }
   out_ << "  <path d=\"" << path << "\" fill=\"none\" stroke=\"" << color << "\" stroke-width=\""
        << Length(width) << "\" stroke-linejoin=\"round\""
        << (dashes.empty() ? " stroke-linecap=\"round\"" : " stroke-dasharray=\"" + dashes + "\"")

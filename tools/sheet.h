@@ -35,7 +35,8 @@ class Sheet {
 
   // The ground of a panel with its axes, and a mark at each unit.
   void DrawPlane(const Panel& panel, double unit = 1);
-  // Numbers of the x axis, those that find a place where neither curves nor edges are.
+  // Numbers of the x axis, those that find a place where neither curves nor edges are, nor a
+  // vertical drawn before.
   void DrawNumbers(const Panel& panel, const std::vector<Trace>& traces,
                    const std::vector<double>& numbers);
   // What was drawn, as far as the panel shows it. `width` is that of curves, in pixels.
@@ -52,8 +53,15 @@ class Sheet {
   void Stroke(const std::string& path, const std::string& color, double width,
               const std::string& dashes = "");
 
+  struct Vertical {
+    double X;
+    double Top;
+    double Bottom;
+  };
+
   double width_;
   double height_;
+  std::vector<Vertical> verticals_;
   std::ostringstream out_;
 };
 
