@@ -148,11 +148,13 @@ void Sheet::DrawPlane(const Panel& panel, double unit) {
 void Sheet::DrawNumbers(const Panel& panel, const std::vector<Trace>& traces,
                         const std::vector<double>& numbers) {
   constexpr double Air = 2;  // pixels kept free around a number
+  constexpr double VerticalAir = 4;
   const double height = NumberHeight * NumberScale;
   const auto crossed = [&](const Box& box) {
     const bool byVertical =
         std::any_of(verticals_.begin(), verticals_.end(), [&](const Vertical& vertical) {
-          return vertical.X > box.Left - Air && vertical.X < box.Left + box.Width + Air &&
+          return vertical.X > box.Left - VerticalAir &&
+                 vertical.X < box.Left + box.Width + VerticalAir &&
                  vertical.Top < box.Top + height + Air && vertical.Bottom > box.Top - Air;
         });
     return byVertical || std::any_of(traces.begin(), traces.end(), [&](const Trace& trace) {
