@@ -6,6 +6,7 @@
 // Each page is driven by its own buttons. Values that the page shows beside a drawing are written
 // into a file of their own, from which the manual's pages take them.
 
+#include <algorithm>
 #include <cmath>
 #include <exception>
 #include <filesystem>
@@ -136,10 +137,9 @@ void DrawTangents(Studio& studio) {
   page.DesenharGráfico.UserClick();
   const std::string function = page.Função1.Text();
 
-  std::vector<int> steps;
-  for (const double x : places) {
-    steps.push_back(static_cast<int>(std::lround((x - Start) / Step)) + 1);
-  }
+  std::vector<int> steps(places.size());
+  std::transform(places.begin(), places.end(), steps.begin(),
+                 [](double x) { return static_cast<int>(std::lround((x - Start) / Step)) + 1; });
   Strip strip(3, 554, 114, {-1, 7.4}, {-0.9, 4.5});
   std::vector<std::string> values;
   studio.Watch(
