@@ -11,6 +11,7 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QPixmap>
+#include <QTemporaryFile>
 #include <QWidget>
 #include <cstdio>
 #include <functional>
@@ -240,7 +241,16 @@ void TakeAll(Camera& camera) {
 }  // namespace clinorama
 
 int main(int argc, char* argv[]) {
-  qputenv("QT_QPA_PLATFORM", "offscreen");
+  // The screen that pages are laid out for, so that they are not zoomed.
+  QTemporaryFile screens;
+  screens.open();
+  screens.write(QStringLiteral(R"({"screens": [{"name": "", "x": 0, "y": 0,
+      "width": %1, "height": %2, "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})")
+                    .arg(1024 * clinorama::Density)
+                    .arg(768 * clinorama::Density)
+                    .toUtf8());
+  screens.flush();
+  qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + screens.fileName().toUtf8());
   qputenv("QT_SCALE_FACTOR", QByteArray::number(clinorama::Density));
   QApplication qt(argc, argv);
   if (argc != 2) {
