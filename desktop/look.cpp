@@ -9,34 +9,34 @@
 #include <QSvgRenderer>
 #include <QVariant>
 #include <QWidget>
-#include <algorithm>
-#include <cmath>
 
 #include "desktop/accessibility.h"
 #include "desktop/portuguese.h"
 #include "desktop/style.h"
+#include "forms/letters.h"
 #include "forms/raster.h"
 
 namespace clinorama::desktop {
 namespace {
-
-constexpr double PixelsToPoint = 96.0 / 72.0;
-// Below this size in device pixels the digits of an axis are painted without grey edges and never
-// bold, as their strokes are a pixel wide at the least: that keeps them sharp. The letters "x" and
-// "y" would look like others then.
-constexpr int SmallestSmoothed = 10;
-// Smaller digits cannot be told apart.
-constexpr int SmallestDigits = 8;
 
 constexpr const char* ZoomProperty = "zoom";
 
 const QString PlainFamily = QStringLiteral("DejaVu Sans");
 const QString ComicFamily = QStringLiteral("Comic Neue");
 
-// Rounded down, so that no text outgrows the place that the layout gives it.
-int PixelSize(const forms::Font& font, double density) {
-  constexpr double RoundingError = 1e-6;
-  return std::max(1, static_cast<int>(font.Size * PixelsToPoint * density + RoundingError));
+QFont FontFor(const forms::Letters& letters) {
+  QFont chosen(letters.Comic ? ComicFamily : PlainFamily);
+  chosen.setPixelSize(letters.Pixels);
+  chosen.setBold(letters.Bold);
+  chosen.setItalic(false);
+  if (letters.Narrow) {
+    chosen.setStretch(qRound(100 * forms::NarrowWidth));
+  }
+  if (letters.Sharp) {
+    chosen.setHintingPreference(QFont::PreferFullHinting);
+    chosen.setStyleStrategy(QFont::NoAntialias);
+  }
+  return chosen;
 }
 
 }  // namespace
@@ -87,31 +87,10 @@ double ZoomOf(const QWidget& widget) {
 int LineWidth(double zoom) { return std::max(1, static_cast<int>(zoom)); }
 
 QFont FontFor(const forms::Font& font, double zoom) {
-  QFont chosen(font.Name == "Comic Sans MS" ? ComicFamily : PlainFamily);
-  chosen.setPixelSize(PixelSize(font, zoom));
-  chosen.setBold(font.Bold);
-  chosen.setItalic(false);
-  return chosen;
+  return FontFor(forms::LettersFor(font, zoom));
 }
 
-QFont SurfaceFontFor(const forms::TextRun& run) {
-  QFont chosen = FontFor(run.Font, run.Density);
-  // Axes are laid out for a symbol font that is narrower than the plain family: its labels stand
-  // less than two pixels apart otherwise.
-  if (forms::IsSymbolFont(run.Font)) {
-    chosen.setStretch(QFont::SemiCondensed);
-  }
-  const bool letters = std::any_of(run.Text.begin(), run.Text.end(), [](char sign) {
-    return (sign >= 'A' && sign <= 'Z') || (sign >= 'a' && sign <= 'z');
-  });
-  chosen.setPixelSize(std::max(chosen.pixelSize(), SmallestDigits));
-  if (chosen.pixelSize() < SmallestSmoothed && !letters) {
-    chosen.setBold(false);
-    chosen.setHintingPreference(QFont::PreferFullHinting);
-    chosen.setStyleStrategy(QFont::NoAntialias);
-  }
-  return chosen;
-}
+QFont SurfaceFontFor(const forms::TextRun& run) { return FontFor(forms::LettersFor(run)); }
 
 QColor ColorFor(forms::Color color) { return QColor::fromRgb(color.Rgb); }
 

@@ -3,7 +3,7 @@
 #include <QAction>
 #include <QKeyEvent>
 #include <QMenu>
-#include <QSet>
+#include <string>
 #include <vector>
 
 #include "desktop/look.h"
@@ -13,29 +13,21 @@
 namespace clinorama::desktop {
 namespace {
 
-// The caption with a mark before its first letter that no other item has.
-QString WithLetter(const QString& caption, QSet<QChar>& taken) {
-  for (int i = 0; i < caption.size(); ++i) {
-    const QChar letter = caption[i].toLower();
-    if (letter >= 'a' && letter <= 'z' && !taken.contains(letter)) {
-      taken.insert(letter);
-      return QString(caption).insert(i, '&');
-    }
-  }
-  return caption;
-}
-
 template <class Bar>
 void AddItems(Bar& bar, const std::vector<forms::Menu*>& items) {
-  QSet<QChar> taken;
-  for (forms::Menu* item : items) {
-    const QString caption = WithLetter(TextFor(item->Caption), taken);
+  const std::vector<std::size_t> letters = forms::LettersThatChoose(items);
+  for (std::size_t i = 0; i < items.size(); ++i) {
+    forms::Menu* item = items[i];
+    std::string marked = item->Caption;
+    if (letters[i] != std::string::npos) {
+      marked.insert(letters[i], 1, '&');
+    }
     if (item->Items().empty()) {
-      QAction* action = bar.addAction(caption);
+      QAction* action = bar.addAction(TextFor(marked));
       action->setObjectName(TextFor(item->Name));
       QObject::connect(action, &QAction::triggered, &bar, [item] { item->UserClick(); });
     } else {
-      QMenu* menu = bar.addMenu(caption);
+      QMenu* menu = bar.addMenu(TextFor(marked));
       menu->setObjectName(TextFor(item->Name));
       AddItems(*menu, item->Items());
     }

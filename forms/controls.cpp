@@ -154,6 +154,25 @@ void Menu::UserClick() {
   }
 }
 
+std::vector<std::size_t> LettersThatChoose(const std::vector<Menu*>& items) {
+  std::vector<std::size_t> places;
+  std::string taken;
+  for (const Menu* item : items) {
+    const std::string& caption = item->Caption;
+    std::size_t place = std::string::npos;
+    for (std::size_t i = 0; i < caption.size() && place == std::string::npos; ++i) {
+      const bool capital = caption[i] >= 'A' && caption[i] <= 'Z';
+      const auto letter = static_cast<char>(capital ? caption[i] - 'A' + 'a' : caption[i]);
+      if (letter >= 'a' && letter <= 'z' && taken.find(letter) == std::string::npos) {
+        taken += letter;
+        place = i;
+      }
+    }
+    places.push_back(place);
+  }
+  return places;
+}
+
 void CommonDialog::ShowColor() {
   Color = Application::Current().TheHost().ShowColor(Color).value_or(Color);
 }

@@ -179,6 +179,10 @@ class Menu {
   std::vector<Menu*> items_;
 };
 
+// The letter that chooses each of the items of a bar or menu: the place in its caption of the first
+// letter that no item before it has. npos where there is none.
+std::vector<std::size_t> LettersThatChoose(const std::vector<Menu*>& items);
+
 // The chooser of a colour. It is never seen itself; its Color is the page's store of that colour.
 class CommonDialog {
  public:

@@ -1,0 +1,29 @@
+import start from "./clinorama.js";
+import { setWords } from "./controls.js";
+import { View } from "./view.js";
+
+// Starts the program when all is there that its first page needs, and shows how it has ended.
+
+const Fonts = ['16px "DejaVu Sans"', 'bold 16px "DejaVu Sans"', 'bold 16px "Comic Neue"'];
+
+const view = new View();
+
+const fail = (/** @type {unknown} */ reason) => {
+  console.error(reason);
+  view.end("O programa parou por causa de um erro. Pode iniciá-lo de novo.");
+};
+addEventListener("error", (event) => fail(event.error ?? event.message));
+addEventListener("unhandledrejection", (event) => fail(event.reason));
+
+const [words] = await Promise.all([
+  fetch("words.json").then((answer) => answer.json()),
+  ...Fonts.map((font) => document.fonts.load(font)),
+]);
+setWords(words);
+await start({ view, onAbort: fail });
+document.documentElement.dataset.started = "";
+
+// Where there is no secure connection there are no workers: the program runs all the same.
+if ("serviceWorker" in navigator) {
+  await navigator.serviceWorker.register("worker.js").catch((reason) => console.warn(reason));
+}

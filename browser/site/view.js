@@ -1,0 +1,231 @@
+import { chooseColor, showBox, showEnd } from "./dialogs.js";
+import { paintText } from "./letters.js";
+import { PageView } from "./page.js";
+import { EventKind, Queue } from "./queue.js";
+import { Screen } from "./screen.js";
+
+// The document as the program sees it: what document.cpp calls.
+
+/** @typedef {import("./controls.js").ControlView} ControlView */
+
+export class View {
+  queue = new Queue();
+  screen = new Screen();
+  /** From the lowest to the highest. @type {PageView[]} */
+  #pages = [];
+  /** The page that has been told to be the active one. @type {PageView | undefined} */
+  #active;
+  /** Those of values, to be announced. @type {Set<ControlView>} */
+  #values = new Set();
+  #stage = /** @type {HTMLElement} */ (document.getElementById("stage"));
+  #announcer = /** @type {HTMLElement} */ (document.getElementById("announcer"));
+
+  paintText = paintText;
+
+  constructor() {
+    const fit = () => {
+      this.screen.fit();
+      this.#pages.forEach((page) => page.fit());
+    };
+    addEventListener("resize", fit);
+    fit();
+    this.#stage.addEventListener("pointerdown", (event) => this.#pressBehind(event));
+    for (const type of ["keydown", "keyup"]) {
+      addEventListener(type, (event) => {
+        this.#stage.classList.toggle("letters", /** @type {KeyboardEvent} */ (event).altKey);
+      });
+    }
+  }
+
+  density() {
+    return this.screen.density;
+  }
+
+  // Pages.
+
+  /** @param {PageTree} state */
+  create(state) {
+    const page = new PageView(state, this);
+    this.#pages.push(page);
+    this.#stage.append(page.section);
+  }
+
+  /** @param {number} number */
+  show(number) {
+    const page = this.#page(number);
+    if (page !== undefined) {
+      page.section.hidden = false;
+      this.#raise(page);
+      this.#active = page;
+    }
+  }
+
+  /** @param {number} number */
+  hide(number) {
+    const page = this.#page(number);
+    if (page !== undefined) {
+      page.section.hidden = true;
+      this.#arrange();
+    }
+  }
+
+  /** @param {number} number */
+  drop(number) {
+    const page = this.#page(number);
+    if (page !== undefined) {
+      page.section.remove();
+      this.#pages = this.#pages.filter((other) => other !== page);
+      this.#arrange();
+    }
+  }
+
+  /** The page in front. */
+  get top() {
+    return this.#pages.findLast((page) => page.shown);
+  }
+
+  /** @param {number} number */
+  #page(number) {
+    return this.#pages.find((page) => page.number === number);
+  }
+
+  /** @param {PageView} page */
+  #raise(page) {
+    this.#pages = [...this.#pages.filter((other) => other !== page), page];
+    this.#arrange();
+  }
+
+  // Only the page in front can be reached; the others are before it in the order of painting.
+  #arrange() {
+    this.#pages.forEach((page, index) => {
+      page.section.style.zIndex = `${index}`;
+      page.section.inert = page !== this.top;
+    });
+    this.top?.takeKeyboard();
+    // The program may show yet another page before it waits.
+    queueMicrotask(() => {
+      const { top } = this;
+      if (top !== this.#active) {
+        this.#active = top;
+        top?.tell(EventKind.Activate, top.number);
+      }
+    });
+  }
+
+  // A press on a page behind another one brings it to the front, and is a press on what lies there.
+  /** @param {PointerEvent} event */
+  #pressBehind({ target, clientX, clientY }) {
+    if (target !== this.#stage) {
+      return;
+    }
+    const page = this.#pages.findLast(({ section, shown }) => {
+      const { left, right, top, bottom } = section.getBoundingClientRect();
+      return shown && clientX >= left && clientX < right && clientY >= top && clientY < bottom;
+    });
+    if (page === undefined) {
+      return;
+    }
+    this.#raise(page);
+    this.#stage.addEventListener(
+      "click",
+      () => {
+        const pressed = document.elementFromPoint(clientX, clientY)?.closest("input, button");
+        if (pressed instanceof HTMLElement) {
+          pressed.focus();
+          pressed.click();
+        }
+      },
+      { once: true },
+    );
+  }
+
+  // Controls.
+
+  /** @param {State[]} states */
+  update(states) {
+    for (const state of states) {
+      const control = this.#control(state.number);
+      if (state.kind === "page") {
+        this.#page(state.number)?.showPage(/** @type {PageState} */ (state));
+      } else if (control !== undefined) {
+        if (/** @type {LabelState} */ (state).bordered) {
+          this.#values.add(control);
+        }
+        this.#pages.forEach((page) => page.show(state));
+      }
+    }
+    this.top?.takeBack();
+  }
+
+  /** @param {number} number */
+  focus(number) {
+    for (const page of this.#pages) {
+      const control = page.control(number);
+      if (control !== undefined) {
+        page.focus(control);
+      }
+    }
+  }
+
+  /** @param {number} number */
+  #control(number) {
+    return this.#pages.map((page) => page.control(number)).find((control) => control !== undefined);
+  }
+
+  /**
+   * Shows a part of a surface.
+   * @param {number} number @param {ImageData} part @param {number} x @param {number} y
+   * @param {number} width @param {number} height of the whole surface
+   */
+  put(number, part, x, y, width, height) {
+    const canvas = this.#control(number)?.element.querySelector("canvas");
+    if (canvas) {
+      if (canvas.width !== width || canvas.height !== height) {
+        canvas.width = width;
+        canvas.height = height;
+      }
+      canvas.getContext("2d", { alpha: false })?.putImageData(part, x, y);
+    }
+  }
+
+  // What nobody has asked for.
+
+  /** @param {string} words */
+  announce(words) {
+    this.#announcer.textContent = words;
+  }
+
+  /** No handler is on the stack: the values of a motion have come to their end. */
+  atRest() {
+    const spoken = [...this.#values]
+      .map(({ state }) => /** @type {LabelState} */ (state))
+      .filter(({ text }) => text !== "")
+      .map((state) => state.spoken);
+    this.#values.clear();
+    if (spoken.length > 0) {
+      this.announce(spoken.join("; "));
+    }
+  }
+
+  // Boxes.
+
+  /** @param {string} text @param {boolean} information @param {string} title */
+  async box(text, information, title) {
+    await showBox(text, information, title);
+    this.top?.takeKeyboard();
+  }
+
+  /** @param {number} now */
+  async chooseColor(now) {
+    const color = await chooseColor(now);
+    this.top?.takeKeyboard();
+    return color;
+  }
+
+  /** The end of the program. @param {string} words */
+  end(words = "O programa terminou.") {
+    this.queue.end();
+    showEnd(words);
+    return new Promise(() => {});
+  }
+}
