@@ -8,7 +8,7 @@ take_turn() {
   mkdir -p build
   exec {build_lock}>build/.lock
   if ! flock --nonblock "$build_lock"; then
-    echo "Another scripts/run, scripts/test or scripts/soak is building here: waiting for it." >&2
+    echo "Another scripts/run, scripts/test, scripts/soak or scripts/browser is building here: waiting for it." >&2
     flock "$build_lock"
   fi
 }
@@ -30,6 +30,15 @@ configure() {
     export CMAKE_BUILD_PARALLEL_LEVEL="${CMAKE_BUILD_PARALLEL_LEVEL-$(nproc)}"
   fi
   cmake --preset "$preset" "${how[@]}" "${@:2}"
+}
+
+# build_browser [option ...]: compiles the program for a browser and puts it into build/browser.
+build_browser() {
+  # Debian's compiler finds its JavaScript libraries by this.
+  export NODE_PATH=/usr/share/nodejs
+  configure browser --log-level=WARNING "$@"
+  cmake --build --preset browser
+  /usr/bin/python3 browser/make_site.py build/browser-objects/browser build/browser
 }
 
 build_fuzzer() {

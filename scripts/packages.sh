@@ -29,6 +29,19 @@ test_packages=(xdotool imagemagick clang-format-16 qt6-base-private-dev)
 # shellcheck disable=SC2034
 fuzz_packages=(clang libclang-rt-14-dev)
 
+# To build for a browser (scripts/browser): the compiler, the fonts and what makes them small, and
+# what draws the icon in the sizes of tablets.
+# shellcheck disable=SC2034
+browser_packages=(
+  emscripten cmake ninja-build
+  fonts-dejavu-core fonts-comic-neue python3 python3-fonttools python3-brotli
+  librsvg2-bin
+)
+
+# To test in a browser (tests/browser); npm brings what drives it.
+# shellcheck disable=SC2034
+browser_test_packages=(chromium googletest)
+
 # To typeset the text pictures (scripts/pages): their fonts, asked for by name. Node.js comes on top.
 # shellcheck disable=SC2034
 page_packages=(fonts-crosextra-carlito fonts-oflb-asana-math fonts-comic-neue)

@@ -1,7 +1,7 @@
 import { fontOf } from "./screen.js";
 
 // Of 255: a pixel of a sharp letter is black from this cover on.
-const SharpCover = 110;
+const SharpCover = 85;
 
 const context = /** @type {CanvasRenderingContext2D} */ (
   document.createElement("canvas").getContext("2d", { willReadFrequently: true })
@@ -22,7 +22,12 @@ export function paintText(bytes, width, height, x, y, text, letters) {
   context.font = fontOf(letters.comic, letters.bold, letters.size);
   const { fontBoundingBoxAscent } = context.measureText(text);
   context.setTransform(letters.stretch, 0, 0, 1, x, y + Math.round(fontBoundingBoxAscent));
-  context.fillText(text, 0, 0);
+  let left = 0;
+  // Each sharp letter stands on whole pixels, so that it looks the same everywhere.
+  for (const part of letters.sharp ? text : [text]) {
+    context.fillText(part, left / letters.stretch, 0);
+    left += Math.round(context.measureText(part).width * letters.stretch);
+  }
   const painted = context.getImageData(0, 0, width, height).data;
   for (let at = 0; at < painted.length; at += 4) {
     const cover = painted[at + 3];
