@@ -34,11 +34,9 @@ configure() {
 
 # build_browser [option ...]: compiles the program for a browser and puts it into build/browser.
 build_browser() {
-  # Debian's compiler finds its JavaScript libraries by this.
-  export NODE_PATH=/usr/share/nodejs
-  configure browser --log-level=WARNING "$@"
-  cmake --build --preset browser
-  /usr/bin/python3 browser/make_site.py build/browser-objects/browser build/browser
+  configure wasm --log-level=WARNING "$@"
+  cmake --build --preset wasm
+  /usr/bin/python3 browser/make_site.py build/wasm/browser build/browser
 }
 
 build_fuzzer() {

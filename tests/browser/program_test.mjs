@@ -1,0 +1,328 @@
+// The built program in a real browser: what only a browser can break. The rules of the program are
+// tested where they are, without one. Run by scripts/test; by hand, after scripts/browser --build:
+//
+//   cd tests/browser && npm install && node --test
+import assert from "node:assert/strict";
+import { readFile } from "node:fs/promises";
+import { after, afterEach, before, test } from "node:test";
+import { setTimeout as sleep } from "node:timers/promises";
+import { launch, Program, serve } from "./browser.mjs";
+
+let browser;
+let site;
+let program;
+
+before(async () => {
+  [browser, site] = await Promise.all([launch(), serve()]);
+});
+after(async () => {
+  await browser.close();
+  site.close();
+});
+afterEach(async () => {
+  const { errors } = program;
+  await program.close();
+  assert.deepEqual(errors, []);
+});
+
+async function start(options) {
+  program = await Program.open(browser, site.url, options);
+}
+
+async function startOnWorkPage(options) {
+  await start(options);
+  await program.choose("Form2", "Clinorama");
+  await program.pageOf("Form12").waitFor();
+}
+
+const control = (...names) => program.control(...names);
+const free = (form, name) => control(form, name).and(program.page.locator(":enabled"));
+const press = (key) => program.page.keyboard.press(key);
+
+/** The name of the control that has the keyboard; "" for the empty ground of a page. */
+const holder = () =>
+  program.page.evaluate(() => document.activeElement.closest("[data-name]:not(section)")?.dataset.name ?? "");
+
+async function plot() {
+  await control("Form12", "DesenharGráfico").click();
+  await control("Form12", "Picture2").waitFor({ state: "hidden" });
+}
+
+/** Moves the bar of a page to its quick end. */
+async function hurry(form) {
+  await control(form, "HScroll1").locator("input").focus();
+  await press("End");
+}
+
+/** A print of what a page's first surface shows. */
+const surface = (form) =>
+  control(form, "Picture1")
+    .locator("canvas")
+    .evaluate((canvas) => {
+      const { data } = canvas.getContext("2d").getImageData(0, 0, canvas.width, canvas.height);
+      return data.reduce((print, byte) => (print * 31 + byte) % 1_000_000_007, 7);
+    });
+
+async function goesOn(form) {
+  const before = await surface(form);
+  await sleep(150);
+  return (await surface(form)) !== before;
+}
+
+const expectMotion = async (form) => assert.ok(await goesOn(form), "the motion stands still");
+
+async function expectStandstill(form) {
+  await sleep(50);
+  assert.ok(!(await goesOn(form)), "the motion goes on");
+}
+
+test("surfaces look as on the desktop", async () => {
+  // Letters look different on each system.
+  await startOnWorkPage({
+    prepare: () => (CanvasRenderingContext2D.prototype.fillText = () => {}),
+  });
+  const expectSurface = async (form, name, file) => {
+    const expected = await readFile(`${process.env.CLINORAMA_SURFACES}/${file}.rgb`);
+    const pixels = await control(form, name)
+      .locator("canvas")
+      .evaluate((canvas) => {
+        const { data } = canvas.getContext("2d").getImageData(0, 0, canvas.width, canvas.height);
+        return [...data].filter((_, at) => at % 4 !== 3);
+      });
+    assert.equal(pixels.length, expected.length, file);
+    let different = 0;
+    for (let at = 0; at < pixels.length; at += 3) {
+      different += [0, 1, 2].some((i) => pixels[at + i] !== expected[at + i]);
+    }
+    // The mathematics of another system differs in the last bit.
+    assert.ok(different <= pixels.length / 3 / 1000, `${file}: ${different} pixels differ`);
+  };
+  await plot();
+  await hurry("Form12");
+  for (const side of ["DerivadaEsquerda", "DerivadaDireita"]) {
+    await control("Form12", side).click();
+    await free("Form12", "Calcular").waitFor();
+  }
+  await expectSurface("Form12", "Picture1", "derivatives");
+  await control("Form12", "Calcular").click();
+  await free("Form12", "Calcular").waitFor({ timeout: 30_000 });
+  await expectSurface("Form12", "Picture1", "sweep");
+  await control("Form12", "Relacionar").click();
+  for (const button of [
+    "DesenharGráfico",
+    "ColocarCoresFunção",
+    "DesenharPrimeira",
+    "ColocarCoresPrimeira1",
+    "DesenharSegunda",
+  ]) {
+    await free("Form13", button).click();
+    await free("Form13", "Sair").waitFor();
+  }
+  await sleep(300);
+  for (const number of [1, 3, 5]) {
+    await expectSurface("Form13", `Picture1(${number})`, `relations_${number}`);
+  }
+});
+
+test("a sweep pauses, and the keyboard resumes it", async () => {
+  await startOnWorkPage();
+  await plot();
+  await control("Form12", "Calcular").focus();
+  await press("Enter");
+  await expectMotion("Form12");
+  assert.equal(await holder(), "", "where Calcular is locked");
+  await control("Form12", "Parar1").focus();
+  await press("Space");
+  await control("Form12", "Continuar1").waitFor();
+  assert.equal(await holder(), "Continuar1");
+  await expectStandstill("Form12");
+  await press("Space");
+  await expectMotion("Form12");
+  assert.equal(await holder(), "Parar1");
+});
+
+test("a held bar holds the motion", async () => {
+  await startOnWorkPage();
+  await plot();
+  await control("Form12", "Calcular").click();
+  const { page } = program;
+  const bar = await control("Form12", "HScroll1").locator("input").boundingBox();
+  await page.mouse.move(bar.x + bar.width / 2, bar.y + bar.height / 2);
+  await page.mouse.down();
+  await expectStandstill("Form12");
+  await page.mouse.move(bar.x + bar.width / 2, bar.y + 100);
+  await page.mouse.up();
+  await expectMotion("Form12");
+  await page.keyboard.down("ArrowLeft");
+  await expectStandstill("Form12");
+  await page.keyboard.up("ArrowLeft");
+  await expectMotion("Form12");
+});
+
+test("a page closes in a pause inside a motion", async () => {
+  await startOnWorkPage();
+  await plot();
+  await control("Form12", "Calcular").click();
+  await control("Form12", "Parar1").click();
+  await control("Form12", "Continuar1").waitFor();
+  await program.closePage("Form12");
+  await program.pageOf("Form12").waitFor({ state: "detached" });
+  await program.choose("Form2", "Clinorama");
+  await plot();
+});
+
+test("clicks nest in a motion of the lesson, and all of them end with it", async () => {
+  await start();
+  await program.choose("Form2", "Conceito de derivada");
+  await hurry("Form9");
+  for (let turned = 0; turned < 23; ++turned) {
+    await free("Form9", "Seguinte").click();
+    await control("Form9", "Label3").getByText(`${turned + 1}`, { exact: true }).waitFor();
+  }
+  // Page 23 lets the user turn pages in its motion.
+  await control("Form9", "HScroll1").locator("input").focus();
+  await press("Home");
+  for (let nested = 0; nested < 5; ++nested) {
+    await free("Form9", "Anterior").click();
+    await control("Form9", "Label3").getByText("22", { exact: true }).waitFor();
+    await free("Form9", "Seguinte").click();
+    await control("Form9", "Label3").getByText("23", { exact: true }).waitFor();
+  }
+  await expectMotion("Form9");
+  await program.closePage("Form9");
+  await program.pageOf("Form9").waitFor({ state: "detached" });
+  await program.choose("Form2", "Conceito de derivada");
+  assert.equal(await control("Form9", "Label3").textContent(), "0");
+});
+
+test("boxes wait for the user", async () => {
+  await startOnWorkPage();
+  const box = program.page.locator("dialog");
+  await control("Form12", "Calcular").click();
+  await box.getByText("Deve desenhar primeiro o gráfico da função.").waitFor();
+  await press("Enter");
+  await box.waitFor({ state: "detached" });
+  assert.equal(await holder(), "Calcular");
+  await plot();
+  const before = await surface("Form12");
+  await control("Form12", "CorFundo").click();
+  await box.getByLabel("vermelho 255, verde 255, azul 0", { exact: true }).click();
+  await box.getByText("Cancelar").click();
+  await box.waitFor({ state: "detached" });
+  assert.equal(await surface("Form12"), before);
+});
+
+test("a page fits the window in the middle of a motion", async () => {
+  await startOnWorkPage();
+  await plot();
+  await control("Form12", "Calcular").click();
+  await program.page.setViewportSize({ width: 768, height: 1024 });
+  await expectMotion("Form12");
+  const page = await program.pageOf("Form12").boundingBox();
+  assert.ok(page.x >= 0 && page.width <= 768, "the page is cut off");
+  assert.ok(page.width > 700, "the page is small");
+  assert.equal(await control("Form12", "Função1").inputValue(), "x*(1-cos(x))/2");
+});
+
+test("keys and presses do what they do on the desktop", async () => {
+  await start();
+  await press("F10");
+  await press("ArrowRight");
+  await press("Enter"); // Conceito de derivada
+  await program.pageOf("Form9").waitFor();
+  await press("PageDown");
+  await control("Form9", "Label3").getByText("1", { exact: true }).waitFor();
+  await press("Control+w");
+  await program.pageOf("Form9").waitFor({ state: "detached" });
+  await press("Alt+l"); // Clinorama
+  await control("Form12", "Exemplos").click();
+  await program.pageOf("Form5").waitFor();
+  // A press on a page behind another one.
+  const button = await control("Form12", "Exemplos").boundingBox();
+  await program.page.mouse.click(button.x + 40, button.y + 20);
+  await program.pageOf("Form5").waitFor();
+  await press("Escape");
+  await program.pageOf("Form5").waitFor({ state: "detached" });
+  assert.equal(await holder(), "Exemplos");
+  await control("Form12", "Exemplos").evaluate((element) => element.blur());
+});
+
+test("the program ends, and starts again", async () => {
+  await startOnWorkPage();
+  await plot();
+  await control("Form12", "Calcular").click();
+  await program.choose("Form12", "Ficheiro", "Abandonar o programa");
+  await program.page.getByText("O programa terminou.").waitFor();
+  await program.page.getByRole("button", { name: "Iniciar de novo" }).click();
+  await program.pageOf("Form2").waitFor();
+});
+
+test("an error ends the program with a sentence", async () => {
+  await startOnWorkPage();
+  await program.page.evaluate(() => setTimeout(() => Promise.reject(new Error("made up"))));
+  await program.page.getByText("O programa parou por causa de um erro.").waitFor();
+  assert.match(program.errors.join(), /made up/);
+  program.errors = [];
+});
+
+test("the program works without a network", async () => {
+  await start();
+  const { page, context } = program;
+  await page.evaluate(async () => {
+    const { active } = await navigator.serviceWorker.ready;
+    if (active.state !== "activated") {
+      await new Promise((resolve) => active.addEventListener("statechange", resolve));
+    }
+  });
+  await context.setOffline(true);
+  await page.reload();
+  await program.choose("Form2", "Instruções");
+  await page.waitForFunction(
+    () => document.querySelector('section[data-name="Form6"] img')?.naturalWidth > 0,
+  );
+  assert.ok((await program.pageOf("Form6").getByRole("document").textContent()).length > 100);
+});
+
+test("assistive technology finds its way on each page", async () => {
+  await start();
+  const { page } = program;
+  await page.evaluate(
+    await readFile(new URL("node_modules/axe-core/axe.min.js", import.meta.url), "utf8"),
+  );
+  const scan = async (what) => {
+    const { violations } = await page.evaluate(() => axe.run());
+    const told = violations.map(({ id, nodes }) => `${id}: ${nodes.map(({ html }) => html)}`);
+    assert.deepEqual(told, [], what);
+  };
+  await scan("Form2");
+  for (const [item, form] of [
+    ["Instruções", "Form6"],
+    ["Comentários", "Form11"],
+    ["Sintaxe", "Form3"],
+    ["Funções definidas", "Form4"],
+    ["Conceito de derivada", "Form9"],
+    ["Clinorama", "Form12"],
+  ]) {
+    await program.choose("Form2", item);
+    await program.pageOf(form).waitFor();
+    await scan(form);
+    if (form !== "Form12") {
+      await program.closePage(form);
+    }
+  }
+  await control("Form12", "Exemplos").click();
+  await program.pageOf("Form5").waitFor();
+  await scan("Form5");
+  await press("Escape");
+  await control("Form12", "Calcular").click();
+  await page.locator("dialog").waitFor();
+  await scan("a box");
+  await press("Escape");
+  await control("Form12", "CorFundo").click();
+  await page.locator("dialog").waitFor();
+  await scan("the chooser");
+  await press("Escape");
+  await control("Form12", "Relacionar").click();
+  await program.pageOf("Form13").waitFor();
+  await scan("Form13");
+});
