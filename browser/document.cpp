@@ -60,12 +60,13 @@ void Focus(int number) { js_focus(number); }
 void Put(int number, const forms::Raster& raster, const forms::PixelRect& rect) {
   constexpr std::uint32_t Opaque = 0xFF000000;
   static std::vector<std::uint32_t> pixels;
-  pixels.clear();
+  pixels.resize(static_cast<std::size_t>(rect.Width) * static_cast<std::size_t>(rect.Height));
+  std::uint32_t* to = pixels.data();
   for (int y = rect.Y; y < rect.Y + rect.Height; ++y) {
     const std::uint32_t* row = raster.Data() + static_cast<std::ptrdiff_t>(y) * raster.Width();
     for (int x = rect.X; x < rect.X + rect.Width; ++x) {
       const std::uint32_t pixel = row[x];
-      pixels.push_back(Opaque | (pixel & 0xFF) << 16 | (pixel & 0xFF00) | (pixel >> 16 & 0xFF));
+      *to++ = Opaque | (pixel & 0xFF) << 16 | (pixel & 0xFF00) | (pixel >> 16 & 0xFF);
     }
   }
   js_put(number, pixels.data(), rect.X, rect.Y, rect.Width, rect.Height, raster.Width(),

@@ -41,9 +41,18 @@ export class ControlView {
 
   /** Shows what the control now says. @param {State} state @param {Screen} screen */
   show(state, screen) {
+    const before = this.state;
     this.state = state;
     const { element, input } = this;
-    this.place(screen);
+    if (
+      before.left !== state.left ||
+      before.top !== state.top ||
+      before.width !== state.width ||
+      before.height !== state.height
+    ) {
+      this.place(screen);
+    }
+    this.parts.show?.(state, screen);
     if (!state.visible || !state.enabled) {
       this.parts.lock?.();
     }
@@ -64,41 +73,39 @@ export class ControlView {
     style.top = screen.length(top);
     style.width = screen.length(width);
     style.height = screen.length(height);
-    this.parts.show?.(this.state, screen);
   }
-}
-
-/** A text that is spoken otherwise than it is written. @param {string} text @param {string} spoken */
-function spokenText(text, spoken) {
-  if (text === spoken || text === "") {
-    return [text];
-  }
-  const seen = document.createElement("span");
-  seen.ariaHidden = "true";
-  seen.textContent = text;
-  const heard = document.createElement("span");
-  heard.className = "unseen";
-  heard.textContent = spoken;
-  return [seen, heard];
 }
 
 /** @type {Record<string, (state: any, page: PageView) => Parts>} */
 const Makers = {
+  // What is spoken otherwise than it is written has its words twice.
   label(/** @type {LabelState} */ { number }, page) {
     const element = document.createElement("div");
     element.className = "label";
+    const seen = element.appendChild(document.createElement("span"));
+    const heard = element.appendChild(document.createElement("span"));
+    heard.className = "unseen";
     element.addEventListener("click", () => page.tell(EventKind.Click, number));
     element.addEventListener("dblclick", () => page.tell(EventKind.DoubleClick, number));
+    let look = "";
     return {
       element,
       show(/** @type {LabelState} */ state, screen) {
-        element.classList.toggle("bordered", state.bordered);
-        element.classList.toggle("middle", state.inMiddle);
-        element.style.font = screen.font(state.font);
-        element.style.color = state.color;
-        element.style.textAlign = state.alignment;
-        element.style.justifyContent = state.alignment;
-        element.replaceChildren(...spokenText(state.text, state.spoken));
+        const { font, color, alignment, bordered, inMiddle } = state;
+        // A motion changes the text with each step, and nothing else.
+        const now = `${screen.font(font)} ${color} ${alignment} ${bordered} ${inMiddle}`;
+        if (look !== now) {
+          look = now;
+          element.classList.toggle("bordered", bordered);
+          element.classList.toggle("middle", inMiddle);
+          element.style.font = screen.font(font);
+          element.style.color = color;
+          element.style.textAlign = element.style.justifyContent = alignment;
+        }
+        const alike = state.text === "" || state.text === state.spoken;
+        seen.ariaHidden = alike ? null : "true";
+        seen.textContent = state.text;
+        heard.textContent = alike ? "" : state.spoken;
       },
     };
   },

@@ -244,6 +244,7 @@ export class PageView {
       this.#controls.set(state.number, control);
       parent.append(control.element);
       this.#add(state.children, control.element);
+      control.place(this.view.screen);
       control.show(state, this.view.screen);
     }
   }
@@ -272,6 +273,7 @@ export class PageView {
     this.place();
     for (const control of this.#controls.values()) {
       control.place(this.view.screen);
+      control.show(control.state, this.view.screen);
     }
   }
 }
