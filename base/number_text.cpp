@@ -60,7 +60,8 @@ double NumberFrom(std::string_view text) {
   in.imbue(std::locale::classic());
   double value = 0;
   in >> value;
-  if (in.fail() && std::abs(value) == std::numeric_limits<double>::max()) {
+  // Too large a number is left as the largest real by one standard library, as infinite by another.
+  if (in.fail() && std::abs(value) >= std::numeric_limits<double>::max()) {
     Raise(Overflow);
   }
   if (in.fail() || in.peek() != std::istringstream::traits_type::eof()) {

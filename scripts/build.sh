@@ -35,7 +35,7 @@ configure() {
 # build_browser [option ...]: compiles the program for a browser and puts it into build/browser.
 build_browser() {
   configure wasm --log-level=WARNING "$@"
-  cmake --build --preset wasm
+  cmake --build --preset wasm --target clinorama
   /usr/bin/python3 browser/make_site.py build/wasm/browser build/browser
 }
 

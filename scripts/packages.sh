@@ -33,14 +33,14 @@ fuzz_packages=(clang libclang-rt-14-dev)
 # what draws the icon in the sizes of tablets.
 # shellcheck disable=SC2034
 browser_packages=(
-  emscripten cmake ninja-build
+  emscripten cmake ninja-build googletest
   fonts-dejavu-core fonts-comic-neue python3 python3-fonttools python3-brotli
   librsvg2-bin
 )
 
 # To test in a browser (tests/browser); npm brings what drives it.
 # shellcheck disable=SC2034
-browser_test_packages=(chromium googletest)
+browser_test_packages=(chromium)
 
 # To typeset the text pictures (scripts/pages): their fonts, asked for by name. Node.js comes on top.
 # shellcheck disable=SC2034
