@@ -164,7 +164,9 @@ void BrowserHost::Deliver(const document::Event& event) {
   } else {
     if (dynamic_cast<forms::OptionButton*>(control) != nullptr) {
       for (forms::Control* sibling : control->Parent()->Children()) {
-        Changed(*sibling);
+        if (dynamic_cast<forms::OptionButton*>(sibling) != nullptr) {
+          Changed(*sibling);
+        }
       }
     }
     Delivery delivery(event);

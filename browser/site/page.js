@@ -1,6 +1,7 @@
 import { ControlView, wordsOf } from "./controls.js";
 import { MenuBar } from "./menu_bar.js";
 import { EventKind } from "./queue.js";
+import { LayoutHeight, LayoutWidth } from "./screen.js";
 
 // A page: its title bar, its menu bar, a view of each control, its keys, and who has the keyboard.
 
@@ -222,15 +223,18 @@ export class PageView {
     close.tabIndex = -1;
     close.addEventListener("click", () => this.tell(EventKind.Close, this.number));
     header.append(this.#title, close);
+    let from = { x: 0, y: 0 };
     header.addEventListener("pointerdown", (event) => {
       if (event.button === 0 && event.target !== close) {
         header.setPointerCapture(event.pointerId);
+        from = { x: event.clientX, y: event.clientY };
       }
     });
     header.addEventListener("pointermove", (event) => {
       if (header.hasPointerCapture(event.pointerId)) {
-        this.#moved.x += event.movementX / this.view.screen.zoom;
-        this.#moved.y += event.movementY / this.view.screen.zoom;
+        this.#moved.x += (event.clientX - from.x) / this.view.screen.zoom;
+        this.#moved.y += (event.clientY - from.y) / this.view.screen.zoom;
+        from = { x: event.clientX, y: event.clientY };
         this.place();
       }
     });
@@ -257,8 +261,8 @@ export class PageView {
     // The title bar can always be reached.
     const within = (/** @type {number} */ at, /** @type {number} */ most) =>
       Math.max(0, Math.min(at, most));
-    this.#moved.x = within(left + this.#moved.x + width / 2, 1024) - left - width / 2;
-    this.#moved.y = within(top - above + this.#moved.y, 768 - above) - top + above;
+    this.#moved.x = within(left + this.#moved.x + width / 2, LayoutWidth) - left - width / 2;
+    this.#moved.y = within(top - above + this.#moved.y, LayoutHeight - above) - top + above;
     const { style } = this.section;
     style.left = screen.length(left + this.#moved.x);
     style.top = screen.length(top - above + this.#moved.y);

@@ -1,13 +1,19 @@
 // How the layout of 1024x768 fits the window: as large as possible, in the middle. Places are whole
 // device pixels, so that surfaces and lines are sharp.
 
-const LayoutWidth = 1024;
-const LayoutHeight = 768;
+export const LayoutWidth = 1024;
+export const LayoutHeight = 768;
 const SmallestZoom = 0.1;
 
 export class Screen {
   zoom = 1;
   ratio = 1;
+  #stage;
+
+  /** @param {HTMLElement} stage what holds the layout */
+  constructor(stage) {
+    this.#stage = stage;
+  }
 
   fit() {
     const { clientWidth, clientHeight } = document.documentElement;
@@ -17,11 +23,11 @@ export class Screen {
       Math.min(clientWidth / LayoutWidth, clientHeight / LayoutHeight),
     );
     const whole = (/** @type {number} */ length) => Math.round(length * this.ratio) / this.ratio;
-    const stage = /** @type {HTMLElement} */ (document.getElementById("stage"));
-    stage.style.left = `${whole((clientWidth - LayoutWidth * this.zoom) / 2)}px`;
-    stage.style.top = `${whole((clientHeight - LayoutHeight * this.zoom) / 2)}px`;
-    stage.style.width = this.length(LayoutWidth);
-    stage.style.height = this.length(LayoutHeight);
+    const { style } = this.#stage;
+    style.left = `${whole((clientWidth - LayoutWidth * this.zoom) / 2)}px`;
+    style.top = `${whole((clientHeight - LayoutHeight * this.zoom) / 2)}px`;
+    style.width = this.length(LayoutWidth);
+    style.height = this.length(LayoutHeight);
     const root = document.documentElement.style;
     root.setProperty("--zoom", `${this.zoom}`);
     root.setProperty("--line", `${Math.max(1, Math.floor(this.density)) / this.ratio}px`);

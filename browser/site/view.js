@@ -10,7 +10,6 @@ import { Screen } from "./screen.js";
 
 export class View {
   queue = new Queue();
-  screen = new Screen();
   /** From the lowest to the highest. @type {PageView[]} */
   #pages = [];
   /** The page that has been told to be the active one. @type {PageView | undefined} */
@@ -18,6 +17,8 @@ export class View {
   /** Those of values, to be announced. @type {Set<ControlView>} */
   #values = new Set();
   #stage = /** @type {HTMLElement} */ (document.getElementById("stage"));
+  screen = new Screen(this.#stage);
+  #ended = false;
   #announcer = /** @type {HTMLElement} */ (document.getElementById("announcer"));
 
   paintText = paintText;
@@ -29,6 +30,12 @@ export class View {
     };
     addEventListener("resize", fit);
     fit();
+    // A press beside all pages leaves the keyboard where it is.
+    addEventListener("mousedown", (event) => {
+      if (event.target === this.#stage || event.target === document.body) {
+        event.preventDefault();
+      }
+    });
     this.#stage.addEventListener("pointerdown", (event) => this.#pressBehind(event));
     for (const type of ["keydown", "keyup"]) {
       addEventListener(type, (event) => {
@@ -224,8 +231,11 @@ export class View {
 
   /** The end of the program. @param {string} words */
   end(words = "O programa terminou.") {
-    this.queue.end();
-    showEnd(words);
+    if (!this.#ended) {
+      this.#ended = true;
+      this.queue.end();
+      showEnd(words);
+    }
     return new Promise(() => {});
   }
 }

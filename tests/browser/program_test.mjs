@@ -1,7 +1,6 @@
 // The built program in a real browser: what only a browser can break. The rules of the program are
-// tested where they are, without one. Run by scripts/test; by hand, after scripts/browser --build:
-//
-//   cd tests/browser && npm install && node --test
+// tested where they are, without one. tests/browser/run runs this; CLINORAMA_SURFACES is the folder
+// of what surfaces.cpp writes.
 import assert from "node:assert/strict";
 import { readFile } from "node:fs/promises";
 import { after, afterEach, before, test } from "node:test";
@@ -76,6 +75,9 @@ async function expectStandstill(form) {
   assert.ok(!(await goesOn(form)), "the motion goes on");
 }
 
+/** What a screen reader has been told last. */
+const announced = () => program.page.locator("#announcer").textContent();
+
 test("surfaces look as on the desktop", async () => {
   // Letters look different on each system.
   await startOnWorkPage({
@@ -105,6 +107,7 @@ test("surfaces look as on the desktop", async () => {
     await control("Form12", side).click();
     await free("Form12", "Calcular").waitFor();
   }
+  assert.equal(await announced(), "Valor da derivada à direita: 1,62");
   await expectSurface("Form12", "Picture1", "derivatives");
   await control("Form12", "Calcular").click();
   await free("Form12", "Calcular").waitFor({ timeout: 30_000 });
@@ -243,19 +246,24 @@ test("keys and presses do what they do on the desktop", async () => {
   await program.pageOf("Form9").waitFor();
   await press("PageDown");
   await control("Form9", "Label3").getByText("1", { exact: true }).waitFor();
+  assert.match(await announced(), /derivada/);
   await press("Control+w");
   await program.pageOf("Form9").waitFor({ state: "detached" });
   await press("Alt+l"); // Clinorama
   await control("Form12", "Exemplos").click();
   await program.pageOf("Form5").waitFor();
+  assert.ok(await program.pageOf("Form12").evaluate((page) => page.inert));
   // A press on a page behind another one.
-  const button = await control("Form12", "Exemplos").boundingBox();
-  await program.page.mouse.click(button.x + 40, button.y + 20);
-  await program.pageOf("Form5").waitFor();
+  const radians = control("Form12", "EixosRad");
+  const { x, y, width } = await radians.boundingBox();
+  await program.page.mouse.click(x + width - 5, y + 20);
+  await radians.getByText("Unidades").waitFor();
+  assert.equal(await holder(), "EixosRad");
+  await press("Alt+f"); // Ficheiro
+  await press("f"); // Fechar esta página
+  await program.pageOf("Form12").waitFor({ state: "detached" });
   await press("Escape");
   await program.pageOf("Form5").waitFor({ state: "detached" });
-  assert.equal(await holder(), "Exemplos");
-  await control("Form12", "Exemplos").evaluate((element) => element.blur());
 });
 
 test("the program ends, and starts again", async () => {
@@ -277,15 +285,16 @@ test("an error ends the program with a sentence", async () => {
 });
 
 test("the program works without a network", async () => {
-  await start();
-  const { page, context } = program;
+  const own = await serve();
+  program = await Program.open(browser, own.url);
+  const { page } = program;
   await page.evaluate(async () => {
     const { active } = await navigator.serviceWorker.ready;
     if (active.state !== "activated") {
       await new Promise((resolve) => active.addEventListener("statechange", resolve));
     }
   });
-  await context.setOffline(true);
+  own.close();
   await page.reload();
   await program.choose("Form2", "Instruções");
   const picture = program.pageOf("Form6").locator(".image:visible > img");
