@@ -15,11 +15,13 @@ EM_JS(void, js_focus, (int number), { Module.view.focus(number); });
 EM_JS(void, js_update, (const char* states), {
   Module.view.update(JSON.parse(UTF8ToString(states)));
 });
-EM_JS(void, js_put, (int number, const void* rgba, int x, int y, int width, int height, int rasterWidth, int rasterHeight), {
+EM_JS(void, js_put, (int number, const void* rgba, int x, int y, int width, int height,
+                     int rasterWidth, int rasterHeight), {
   const bytes = new Uint8ClampedArray(HEAPU8.buffer, rgba, width * height * 4);
   Module.view.put(number, new ImageData(bytes, width, height), x, y, rasterWidth, rasterHeight);
 });
-EM_JS(void, js_paint_text, (void* pixels, int width, int height, int x, int y, const char* text, int comic, int size, int bold, double stretch, int sharp), {
+EM_JS(void, js_paint_text, (void* pixels, int width, int height, int x, int y, const char* text,
+                            int comic, int size, int bold, double stretch, int sharp), {
   const bytes = HEAPU8.subarray(pixels, pixels + width * height * 4);
   Module.view.paintText(bytes, width, height, x, y, UTF8ToString(text),
                         {comic: !!comic, size, bold: !!bold, stretch, sharp: !!sharp});

@@ -18,7 +18,8 @@ site = root / "browser" / "site"
 resources = root / "resources"
 
 # The signs of the program's texts: Latin, Greek, superscripts, arrows, mathematics, shapes.
-SIGNS = "U+20-7E,U+A0-17F,U+370-3FF,U+2010-2026,U+2032,U+2070-209F,U+2190-2193,U+2200-226F,U+25A0-25FF,U+2715"
+SIGNS = ("U+20-7E,U+A0-17F,U+370-3FF,U+2010-2026,U+2032,U+2070-209F,U+2190-2193,U+2200-226F,"
+         "U+25A0-25FF,U+2715")
 FONTS = {
     "/usr/share/fonts/truetype/dejavu": ["DejaVuSans.ttf", "DejaVuSans-Bold.ttf"],
     "/usr/share/fonts/opentype/comic-neue": ["ComicNeue-Bold.otf"],
@@ -35,8 +36,9 @@ def make_fonts(folder):
     for place, names in FONTS.items():
         for name in names:
             font = folder / Path(name).with_suffix(".woff2")
-            run(sys.executable, "-m", "fontTools.subset", Path(place) / name, f"--unicodes={SIGNS}", "--flavor=woff2",
-                f"--output-file={font}", "--layout-features=kern,liga", "--drop-tables+=FFTM")
+            run(sys.executable, "-m", "fontTools.subset", Path(place) / name,
+                f"--unicodes={SIGNS}", "--flavor=woff2", f"--output-file={font}",
+                "--layout-features=kern,liga", "--drop-tables+=FFTM")
 
 
 def copy_pictures(folder):

@@ -16,9 +16,9 @@ class PictureBox;
 // often by hand, and 256 KiB hold so many handlers.
 inline constexpr int GreatestDepth = 200;
 
-// What the pages need of the machine they run on. The desktop implements it with windows, the
-// tests with a script. Calls about controls of a page that has no window yet may come in and are
-// to be ignored: a window is built from the state of its page.
+// What the pages need of the machine they run on. The desktop implements it with windows, a
+// browser with a document, the tests with a script. Calls about controls of a page that has no
+// window yet may come in and are to be ignored: a window is built from the state of its page.
 class Host {
  public:
   Host() = default;

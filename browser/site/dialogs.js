@@ -43,8 +43,8 @@ export async function showBox(text, information, title) {
 const Channels = ["Vermelho", "Verde", "Azul"];
 
 /**
- * Lets the user choose a colour, 0xRRGGBB; -1 when the user cancels. The browser's own chooser would
- * speak the browser's language.
+ * Lets the user choose a colour, 0xRRGGBB; -1 when the user cancels. The browser's own chooser
+ * would speak the browser's language.
  * @param {number} now
  */
 export async function chooseColor(now) {
@@ -123,8 +123,11 @@ function inWords(color) {
   return Channels.map((name, i) => `${name.toLowerCase()} ${channel(color, i)}`).join(", ");
 }
 
-/** The quiet screen at the end, with a button that starts the program again. @param {string} words */
-export async function showEnd(words) {
+/**
+ * The quiet screen at the end, with a button that starts the program again.
+ * @param {string} words
+ */
+export function showEnd(words) {
   const end = document.createElement("main");
   end.className = "end";
   const heading = end.appendChild(document.createElement("h1"));

@@ -1,5 +1,5 @@
-// The menu bar of a page, for mouse, touch and keys: F10 opens its first menu, Alt with a letter the
-// menu of that letter, and arrows move in it.
+// The menu bar of a page, for mouse, touch and keys: F10 opens its first menu, Alt with a letter
+// the menu of that letter, and arrows move in it.
 
 export class MenuBar {
   element = document.createElement("div");
@@ -118,7 +118,8 @@ export class MenuBar {
       choices.length > 0 ? this.#open(next) : this.#items[next].button.focus();
     };
     const updown = (/** @type {number} */ to) => {
-      choices.length === 0 ? this.#open(at) : choices[(to + choices.length) % choices.length].focus();
+      const { length } = choices;
+      length === 0 ? this.#open(at) : choices[(to + length) % length].focus();
     };
     const inMenu = choices.find((each) => each.dataset.letter === letter);
     if (event.key === "ArrowRight") {

@@ -1,6 +1,6 @@
-// Keeps the whole program for use without a network. The build puts in the version and the files, so
-// that another version is another worker: it fetches its files while the present version is in use,
-// and the next visit is to the new one.
+// Keeps the whole program for use without a network. The build puts in the version and the files,
+// so that another version is another worker: it fetches its files while the present version is in
+// use, and the next visit is to the new one.
 
 const Version = "VERSION";
 const Files = ["FILES"];

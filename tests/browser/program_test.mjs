@@ -40,7 +40,10 @@ const press = (key) => program.page.keyboard.press(key);
 
 /** The name of the control that has the keyboard; "" for the empty ground of a page. */
 const holder = () =>
-  program.page.evaluate(() => document.activeElement.closest("[data-name]:not(section)")?.dataset.name ?? "");
+  program.page.evaluate(() => {
+    const control = document.activeElement.closest("[data-name]:not(section)");
+    return control?.dataset.name ?? "";
+  });
 
 async function plot() {
   await control("Form12", "DesenharGráfico").click();
