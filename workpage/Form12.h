@@ -9,6 +9,8 @@
 
 namespace clinorama {
 
+class clsEquation;
+
 // The main work page: the user types a function, and it is plotted on the canvas.
 //
 // The operations live in files named for what they do: canvas.cpp (axes, graduation, colours),
@@ -157,7 +159,7 @@ class Form12 : public forms::Page {
   void DesenharGráfico_Click();
   void BringLiveSurfaceToFront();
   void BringKeptSurfaceToFront();
-  void PlotPoints();
+  void PlotPoints(clsEquation& equation);
 
   // lateral_derivative.cpp
   struct Side;

@@ -16,7 +16,9 @@ void Form12::DesenharGráfico_Click() {
   }
   try {
     MousePointer = forms::MousePointer::Hourglass;
-    PlotPoints();
+    clsEquation equation;
+    equation.Equation(Função1.Text());
+    PlotPoints(equation);
   } catch (const base::Failure& error) {
     // The points drawn so far stay, and the live surface stays in front.
     MousePointer = forms::MousePointer::Default;
@@ -45,10 +47,8 @@ void Form12::BringKeptSurfaceToFront() {
   Picture2.Visible = false;
 }
 
-void Form12::PlotPoints() {
+void Form12::PlotPoints(clsEquation& equation) {
   constexpr double Step = 0.0005;  // far below a pixel, so that a curve looks closed
-  clsEquation equation;
-  equation.Equation(Função1.Text());
   base::CountedLoop(-Limit, Limit, Step, [&](double x) {
     const double y = ValueAt(equation, x);
     // A point outside the domain has the value 1000 and is left out here too.
