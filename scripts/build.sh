@@ -8,7 +8,7 @@ take_turn() {
   mkdir -p build
   exec {build_lock}>build/.lock
   if ! flock --nonblock "$build_lock"; then
-    echo "Another scripts/run, scripts/test or scripts/soak is building here: waiting for it." >&2
+    echo "Another scripts/run, test, soak or package is building here: waiting for it." >&2
     flock "$build_lock"
   fi
 }

@@ -37,6 +37,10 @@ page_packages=(fonts-crosextra-carlito fonts-oflb-asana-math fonts-comic-neue)
 # shellcheck disable=SC2034
 lint_packages=(clang-tidy)
 
+# To make packages (scripts/package): the icons, the dependencies, and the checks of what was made.
+# shellcheck disable=SC2034
+package_packages=(librsvg2-bin dpkg-dev file appstream desktop-file-utils lintian man-db)
+
 # Installs those of the packages named in the arguments that are missing, without asking questions.
 # Says nothing and needs no network when there is nothing to install. Fails when it may not install.
 ensure_packages() {
