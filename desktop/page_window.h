@@ -6,6 +6,7 @@
 #include <set>
 
 #include "desktop/fit.h"
+#include "desktop/keyboard.h"
 #include "desktop/views.h"
 
 class QScreen;
@@ -59,8 +60,6 @@ class PageWindow : public QWidget {
   void AddControls(forms::Control& container, QWidget& parent);
   void SynchronisePage();
   QWidget* WidgetOf(forms::Control& control) const;
-  void ParkKeyboard(const QWidget& widget);
-  void TakeKeyboardBack();
   QWidget* InPlaceOf(const QWidget& widget) const;
   void AnnounceValues();
 
@@ -68,6 +67,7 @@ class PageWindow : public QWidget {
   double zoom_ = 0;  // none yet
   MenuBar* bar_ = nullptr;
   QWidget* client_;
+  Keyboard keyboard_;
   Announcer* announcer_;
   QWidget* parkedAt_ = nullptr;           // had the keyboard when it was locked or hidden
   std::set<const forms::Label*> values_;  // to be announced

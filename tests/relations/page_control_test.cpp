@@ -34,6 +34,10 @@ TEST_F(PageControlTest, ShowsOneIconForEachCaption) {
   for (const forms::Frame* frame : {&page.Frame2, &page.Frame4, &page.Frame5}) {
     for (const forms::Control* control : frame->Children()) {
       const auto& button = dynamic_cast<const forms::CommandButton&>(*control);
+      if (&button == &page.ZerosSegunda) {
+        EXPECT_EQ(button.Picture, "icons/zeros_segunda") << "with green dots";
+        continue;
+      }
       EXPECT_EQ(icons.emplace(button.Caption, button.Picture).first->second, button.Picture);
     }
   }
