@@ -6,7 +6,6 @@
 #include <vector>
 
 #include "lesson/Form9.h"
-#include "tests/support/color_at.h"
 #include "tests/support/scripted_host.h"
 
 namespace clinorama::tests {

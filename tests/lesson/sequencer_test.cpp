@@ -2,7 +2,6 @@
 // and leaving.
 
 #include <algorithm>
-#include <cstdint>
 
 #include "tests/lesson/lesson_test.h"
 
@@ -52,20 +51,15 @@ TEST_F(LessonTest, PausesAMotionWithItsFigureStanding) {
     EXPECT_TRUE(page.Parar.Visible);
     page.HScroll1.UserScroll(10);
   });
-  host.AtStep(220, [&] { page.HScroll1.UserScroll(0); });
+  host.AtStep(220, [&] {
+    page.HScroll1.UserScroll(0);
+    host.Depth = 2;
+    page.Parar.UserClick();
+    EXPECT_TRUE(page.Parar.Visible) << "a pause that nothing could end is none";
+  });
   page.Seguinte.UserClick();
   EXPECT_EQ(host.Steps, 301 + 20);
   EXPECT_EQ(host.WaitedMilliseconds, 100 * 5 + 100 * 10) << "the slider acts from the next step on";
-}
-
-// Page 23 leaves the buttons free.
-TEST_F(LessonTest, IgnoresAPauseThatNothingCouldEnd) {
-  host.Depth = 2;
-  GoTo(6);
-  host.AtStep(100, [&] { page.Parar.UserClick(); });
-  page.Seguinte.UserClick();
-  EXPECT_EQ(host.Steps, 301);
-  EXPECT_TRUE(page.Parar.Visible);
 }
 
 TEST_F(LessonTest, CallsOtherPagesIntoAMotion) {
@@ -105,45 +99,6 @@ TEST_F(LessonTest, CallsOtherPagesIntoAMotion) {
   page.Seguinte.UserClick();
   EXPECT_EQ(host.Steps, 3 * 8002);
   EXPECT_EQ(Texts(), "25");
-}
-
-// What the raster operations of all lines of a page leave, pixel by pixel: the marks of its
-// figures.
-TEST_F(LessonTest, LeavesTheMarksOfItsPassingFigures) {
-  for (const int number : {7, 8, 12, 13}) {
-    GoTo(number - 1);
-    const forms::PictureBox& picture = page.Picture1;
-    const auto width = static_cast<std::size_t>(picture.Kept().Width());
-    const auto height = static_cast<std::size_t>(picture.Kept().Height());
-    std::vector<std::uint32_t> pixels(picture.Kept().Data(),
-                                      picture.Kept().Data() + width * height);
-    const auto before = pixels;
-    page.Seguinte.UserClick();
-
-    forms::Surface mask(picture.Width, picture.Height, 1);  // white but for one line at a time
-    mask.Scale(-1, 10, 10, -1);
-    for (const Drawing& line : Drawn(Kind::Line)) {
-      mask.DrawStyle = line.DrawStyle;
-      mask.TakeDirty();
-      mask.Line(line.X1, line.Y1, line.X2, line.Y2, forms::Black);
-      const forms::PixelRect box = mask.TakeDirty();
-      for (int i = 0; i < box.Width * box.Height; ++i) {
-        const int x = box.X + i % box.Width;
-        const int y = box.Y + i / box.Width;
-        if (mask.Screen().At(x, y) == forms::Black) {
-          std::uint32_t& pixel =
-              pixels[static_cast<std::size_t>(y) * width + static_cast<std::size_t>(x)];
-          pixel = line.DrawMode == forms::CopyPen ? line.Pen.Rgb
-                  : line.DrawMode == forms::InvertPixel
-                      ? ~pixel & forms::ColorBits
-                      : ~(line.Pen.Rgb | pixel) & forms::ColorBits;
-        }
-      }
-      mask.Line(line.X1, line.Y1, line.X2, line.Y2, forms::White);
-    }
-    EXPECT_TRUE(std::equal(pixels.begin(), pixels.end(), picture.Kept().Data())) << number;
-    EXPECT_NE(pixels, before) << number;
-  }
 }
 
 }  // namespace

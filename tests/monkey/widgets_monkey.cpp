@@ -85,25 +85,17 @@ class Monkey {
       }
     }
     const std::string name = window.objectName().toStdString();
-    switch (journal_.Below(16)) {
-      case 0:
-        if (name == "Form2" || !journal_.OneIn(5)) {
-          return;
-        }
+    const int what = journal_.Below(16);
+    if (what == 0) {
+      if (name != "Form2" && journal_.OneIn(5)) {
         journal_.Note("close " + name);
         QWindowSystemInterface::handleCloseEvent(window.windowHandle());
-        return;
-      case 1:
-        journal_.Note("activate " + name);
-        window.activateWindow();
-        return;
-      case 2:
-      case 3:
-      case 4:
-        Press(window);
-        return;
-      default:
-        Click(window);
+      }
+    } else if (what == 1) {
+      journal_.Note("activate " + name);
+      window.activateWindow();
+    } else {
+      what < 5 ? Press(window) : Click(window);
     }
   }
 

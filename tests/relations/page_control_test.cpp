@@ -28,17 +28,6 @@ const Window Windows[] = {
      &F::RadianosSegunda},
 };
 
-// Controls lie inside their container and beside one another, and a caption has one icon.
-TEST_F(PageControlTest, ShowsOneIconForEachCaption) {
-  std::map<std::string, std::string> icons;
-  for (const forms::Frame* frame : {&page.Frame2, &page.Frame4, &page.Frame5}) {
-    for (const forms::Control* control : frame->Children()) {
-      const auto& button = dynamic_cast<const forms::CommandButton&>(*control);
-      EXPECT_EQ(icons.emplace(button.Caption, button.Picture).first->second, button.Picture);
-    }
-  }
-}
-
 TEST_F(PageControlTest, OpensWithLiveCanvasesInUnits) {
   EXPECT_EQ(page.Função1.Text(), "x*(1-cos(x))");
   for (const auto& [persistent, pixels] : {std::pair{1, 533}, {3, 333}, {5, 333}}) {

@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <cctype>
 #include <utility>
 
 #include "lesson/Form9.h"
@@ -11,23 +10,6 @@ namespace clinorama::tests {
 namespace {
 
 using WorkPage = WorkPageTest;
-
-TEST_F(WorkPage, ShowsThePicturesAndTextsThatBelongToItsControls) {
-  for (const auto* button :
-       {&page.DesenharGráfico, &page.ApagarGráfico, &page.CorGráfico, &page.CorFundo,
-        &page.EixosRad, &page.Exemplos, &page.Continuar, &page.Parar, &page.Continuar1,
-        &page.Parar1, &page.Calcular, &page.Relacionar}) {
-    std::string icon = "icons/" + button->Caption();
-    icon[6] = static_cast<char>(std::tolower(icon[6]));
-    EXPECT_EQ(button->Picture, icon) << button->Name();
-  }
-  EXPECT_EQ(page.Image1(0).Picture + " " + page.Image1(1).Picture,
-            "pictures/ponto_fixo pictures/ponto_movel");
-  EXPECT_EQ(page.Image3.Picture + " " + page.Image2.Picture, "pictures/seta_x pictures/seta_y");
-  EXPECT_EQ(std::pair(page.Image3.Left() / 15, page.Image3.Top() / 15), std::pair(618.0, 312.0));
-  EXPECT_EQ(std::pair(page.Image2.Left() / 15, page.Image2.Top() / 15), std::pair(312.0, 11.0));
-  EXPECT_EQ(page.Função1.Text() + " " + page.Abcissa.Text(), "x*(1-cos(x))/2 2");
-}
 
 TEST_F(WorkPage, EmptiesValuesThatAreClickedOrBelongToAnotherText) {
   for (forms::Label* value : {&page.Label2, &page.Label3, &page.Label6}) {
