@@ -108,18 +108,5 @@ TEST(Functions, DrawRandomNumbersFromTheirRanges) {
   }
 }
 
-// The divisor is 0 or 1 with equal chances, so the value is 3 or 3 - 5. An evaluation that began as
-// a programme and ended as a walk would draw twice.
-TEST(Functions, DrawOnceForADivisorThatIsLeftUndone) {
-  clsEquation equation;
-  equation.Equation("3/int(2*rnd)-5");
-  int undone = 0;
-  for (int i = 0; i < 4000; ++i) {
-    equation.Solve();
-    undone += equation.Solution() == 3 ? 1 : 0;
-  }
-  EXPECT_NEAR(undone, 2000, 200);
-}
-
 }  // namespace
 }  // namespace clinorama::tests

@@ -130,12 +130,9 @@ TEST_F(Controls, LoseWhatASurfaceDidNotKeepWhenItIsShownAgain) {
 }
 
 TEST(SymbolFont, ShowsItsSignsForTheLettersWritten) {
-  struct Case {
-    const char *Font, *Text, *Shown;
-  };
-  constexpr Case cases[] = {{"symbol", "-3p/2", "-3π/2"}, {"SYMBOL", "pp", "ππ"},
-                            {"Symbol", "-¥", "-∞"},       {"Symbol", "0,5", "0,5"},
-                            {"Symbo", "p", "p"},          {"MS Serif", "p¥", "p¥"}};
+  const char* const cases[][3] = {{"symbol", "-3p/2", "-3π/2"}, {"SYMBOL", "pp", "ππ"},
+                                  {"Symbol", "-¥", "-∞"},       {"Symbol", "0,5", "0,5"},
+                                  {"Symbo", "p", "p"},          {"MS Serif", "p¥", "p¥"}};
   for (const auto& [font, text, shown] : cases) {
     EXPECT_EQ(forms::VisibleText({.Name = font}, text), shown) << font;
   }

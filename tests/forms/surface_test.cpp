@@ -5,9 +5,9 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
-#include <iterator>
 #include <limits>
 #include <string>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -48,12 +48,7 @@ std::string Seen(const Raster& raster) {
 }
 
 TEST(Surface, PaintsLinesWithBothTheirEnds) {
-  struct Case {
-    Segment Line;
-    int Width, Style;
-    std::string Expected;
-  };
-  const Case cases[] = {
+  const std::tuple<Segment, int, int, std::string> cases[] = {
       {{1.5, 1.5, 5.5, 1.5}, 1, 0, "........ .#####.. ........ ........"},
       {{5.5, 1.5, 1.5, 1.5}, 1, 0, "........ .#####.. ........ ........"},
       {{2.5, 1.5, 2.5, 3.5}, 1, 0, "........ ..#..... ..#..... ..#....."},
@@ -62,30 +57,29 @@ TEST(Surface, PaintsLinesWithBothTheirEnds) {
       {{1.5, 0.5, 6.5, 2.5}, 1, 0, ".##..... ...##... .....##. ........"},
       {{1.5, -5.5, 3.5, 2.5}, 1, 0, "...#.... ...#.... ...#.... ........"},
       {{3.5, 1.5, 4.5, 1.5}, 3, 0, "..####.. ..####.. ..####.. ........"},
+      {{8.5, 0.5, 8.5, 2.5}, 1, 0, "........ ........ ........ ........"},
       {{3.5, 0.5, 5.5, 2.5}, 2, 0, "...##... ...####. ....###. .....##."},
       {{0.5, 1.5, 7.5, 1.5}, 1, Dotted, "........ ##..##.. ........ ........"},
       {{7.5, 1.5, 0.5, 1.5}, 1, Dotted, "........ ..##..## ........ ........"},
       {{0.5, 1.5, 7.5, 1.5}, 3, Dotted, "######## ######## ######## ........"},
   };
-  for (const Case& test : cases) {
+  for (const auto& [line, width, style, expected] : cases) {
     PixelSurface surface(8, 4);
-    surface.DrawWidth = test.Width;
-    surface.DrawStyle = test.Style;
-    test.Line.DrawOn(surface);
-    EXPECT_EQ(Seen(surface.Screen()), test.Expected);
+    surface.DrawWidth = width;
+    surface.DrawStyle = style;
+    line.DrawOn(surface);
+    EXPECT_EQ(Seen(surface.Screen()), expected);
   }
 }
 
 TEST(Surface, PaintsRoundDotsAndCircles) {
-  struct Case {
-    int Width, Radius;  // 0: a dot
-    std::string Expected;
-  };
-  const Case cases[] = {{1, 0, "....... ....... ....... ...#... ....... ....... ......."},
-                        {5, 0, "....... ..###.. .#####. .#####. .#####. ..###.. ......."},
-                        {7, 0, "..###.. .#####. ####### ####### ####### .#####. ..###.."},
-                        {1, 6, "..###.. .#...#. #.....# #.....# #.....# .#...#. ..###.."},
-                        {2, 6, ".#####. ####### ##...## ##...## ##...## ####### .#####."}};
+  // Widths of the pen, and radii of circles; 0 is a dot.
+  const std::tuple<int, int, std::string> cases[] = {
+      {1, 0, "....... ....... ....... ...#... ....... ....... ......."},
+      {5, 0, "....... ..###.. .#####. .#####. .#####. ..###.. ......."},
+      {7, 0, "..###.. .#####. ####### ####### ####### .#####. ..###.."},
+      {1, 6, "..###.. .#...#. #.....# #.....# #.....# .#...#. ..###.."},
+      {2, 6, ".#####. ####### ##...## ##...## ##...## ####### .#####."}};
   for (const auto& [width, radius, expected] : cases) {
     PixelSurface surface(7, 7);
     surface.Scale(0, 0, 14, 7);  // the radius is measured along x
@@ -96,12 +90,10 @@ TEST(Surface, PaintsRoundDotsAndCircles) {
 }
 
 TEST(Surface, WidensPensDashesAndDotsToWholePixels) {
-  struct Case {
-    double Density;
-    int Thin, Wide, Dash;  // device pixels of pens of 1 and 10, and of a dash
-  };
-  for (const auto& [density, thin, wide, dash] :
-       {Case{0.94, 1, 10, 2}, {1, 1, 10, 2}, {1.1, 2, 11, 3}, {1.41, 2, 15, 3}, {2.81, 3, 29, 6}}) {
+  // Densities, with the device pixels of pens of 1 and 10, and of a dash.
+  const std::tuple<double, int, int, std::size_t> cases[] = {
+      {0.94, 1, 10, 2}, {1, 1, 10, 2}, {1 + 1e-9, 1, 10, 2}, {1.41, 2, 15, 3}, {2.81, 3, 29, 6}};
+  for (const auto& [density, thin, wide, dash] : cases) {
     PixelSurface surface(40, 40, density);
     std::string seen;
     const auto painted = [&](int width, int style, double x) {
@@ -217,9 +209,7 @@ TEST(Surface, LeavesPenOrPixelWhereALineWasDrawnAndTakenAway) {
         EXPECT_FALSE(Seen(drawn) == Seen(before));
         int wrong = 0;
         for (int i = 0; i < before.Width() * before.Height(); ++i) {
-          const auto pixel = [i](const Raster& raster) {
-            return raster.At(i % raster.Width(), i / raster.Width()).Rgb;
-          };
+          const auto pixel = [i](const Raster& raster) { return raster.Data()[i]; };
           const bool covered = pixel(drawn) != pixel(before);
           const std::uint32_t left = pixel(before) | (covered ? forms::Red.Rgb : 0);
           wrong += covered && pixel(drawn) != (left ^ 0xFFFFFF);
@@ -267,12 +257,9 @@ struct PrintedSurface : PixelSurface {
 };
 
 TEST(Surface, PrintsATextOverItselfAsOnce) {
-  struct Case {
-    forms::Color Ground, There, Ink;
-    std::uint32_t Edge;
-  };
   using forms::Black, forms::Blue, forms::Red, forms::White;
-  const Case cases[] = {
+  // The ground, the pixels that are there, the ink, and the edge of the text.
+  const std::tuple<forms::Color, forms::Color, forms::Color, std::uint32_t> cases[] = {
       {White, White, Black, 0x808080}, {White, Black, Black, 0x000000},
       {White, White, Blue, 0x8080FF},  {White, Blue, Blue, 0x0000FF},
       {White, Black, Red, 0x7F0000},   {White, Blue, Red, 0x7F0080},
@@ -318,10 +305,11 @@ TEST(Surface, TellsWhichPixelsChangedAndWhatWasDrawn) {
   EXPECT_TRUE(surface.TakeDirty().Empty());
   surface.DrawMode = forms::NotMergePen;
   surface.PSet(3, 4, forms::Red);
-  surface.Line(7, 9, 30, 9);
+  surface.Line(8, 9, 30, 9);
+  surface.Line(8, 10, 8, 18);
   const auto [x, y, width, height] = surface.TakeDirty();
-  EXPECT_EQ((std::vector{x, y, width, height}), (std::vector{3, 4, 17, 6}));
-  ASSERT_EQ(told.size(), 3U);
+  EXPECT_EQ((std::vector{x, y, width, height}), (std::vector{3, 4, 17, 15}));
+  ASSERT_EQ(told.size(), 4U);
   EXPECT_TRUE(told[0].Kept) << "wiped";
   EXPECT_EQ(told[1].Pen, forms::Red);
   EXPECT_EQ(told[1].DrawMode, forms::NotMergePen);

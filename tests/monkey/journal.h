@@ -45,20 +45,9 @@ class Journal {
   bool OneIn(int count) { return Below(count) == 0; }
 
   void Note(std::string action) { last_.at(actions_++ % last_.size()) = std::move(action); }
-  void NoteDepth(int depth) { depth_ = std::max(depth_, depth); }
   bool Over() const { return std::chrono::steady_clock::now() >= end_; }
 
-  // Ends the program with the last actions unless what must hold does.
-  void Expect(bool holds, const char* what) {
-    if (!holds) {
-      std::fprintf(stderr, "does not hold: %s\n", what);
-      std::abort();
-    }
-  }
-
-  void TellTotal() const {
-    std::printf("%zu actions, nested at most %d deep, seed %lu\n", actions_, depth_, seed_);
-  }
+  void TellTotal() const { std::printf("%zu actions, seed %lu\n", actions_, seed_); }
 
  private:
   static void Die(int signal) {
@@ -83,7 +72,6 @@ class Journal {
   std::mt19937 random_;
   std::array<std::string, 40> last_;
   std::size_t actions_ = 0;
-  int depth_ = 0;
 };
 
 }  // namespace clinorama::tests

@@ -1,9 +1,7 @@
 // A random user of the pages, on a host without windows or clock: acts on whatever there is, also
 // inside motions, pauses and boxes. Usage: pages_monkey [seconds [seed]]
 
-#include <functional>
 #include <set>
-#include <vector>
 
 #include "benchmarks/null_host.h"
 #include "forms/application.h"
@@ -46,7 +44,6 @@ class MonkeyHost final : public benchmarks::NullHost {
     if (journal_.Over()) {
       throw ProgramEnded{};
     }
-    journal_.NoteDepth(++nested_);
     forms::Page& page = *journal_.OneOf(shown_);
     const int what = journal_.Below(20);
     if (what == 0) {
@@ -66,7 +63,6 @@ class MonkeyHost final : public benchmarks::NullHost {
     } else if (last_ != nullptr) {  // leafing through the lesson, for instance
       ActOn(*last_);
     }
-    --nested_;
   }
 
  private:
@@ -131,7 +127,6 @@ class MonkeyHost final : public benchmarks::NullHost {
 
   Journal& journal_;
   int depth_;
-  int nested_ = 0;  // actions on the stack
   std::set<forms::Page*> shown_;
   forms::Control* last_ = nullptr;  // that was acted on
 };
@@ -144,11 +139,11 @@ void Live(Journal& journal) {
     forms::The<Form2>().Show();
     for (int actions = journal.Below(500); actions >= 0; --actions) {
       host.Act();
-      journal.Expect(application.AtRest(), "no handler is counted");
       const Form12& page = forms::The<Form12>();
-      journal.Expect(page.Função1.Enabled && page.DerivadaDireita.Enabled && page.Calcular.Enabled,
-                     "the commands of the work page are free");
-      journal.Expect(!page.Image1(1).Visible, "the moving marker is away");
+      if (!application.AtRest() || !page.Função1.Enabled || page.Image1(1).Visible) {
+        std::fputs("a handler has ended and left something behind\n", stderr);
+        std::abort();
+      }
     }
   } catch (const ProgramEnded&) {
   }

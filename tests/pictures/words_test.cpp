@@ -33,10 +33,8 @@ std::string SourceOf(const std::filesystem::path& file) {
   return std::regex_replace(source, std::regex("[ ~\n]+"), " ");
 }
 
-struct Match {
-  std::string Page;  // such as "funcoes_07"
-  std::vector<std::string> Groups;
-};
+using Match =
+    std::pair<std::string, std::vector<std::string>>;  // page, as "funcoes_07", and groups
 
 // All that matches a pattern in the sources of the manual.
 std::vector<Match> Matches(const std::string& pattern) {
@@ -82,18 +80,11 @@ TEST(ManualFunctions, AreThoseOfTheLibraryAndAreListedWithTheirPages) {
   }
 }
 
-// The graph of the work page, or, for the texts about the relations page, of that one.
-struct Plot {
-  const char* Texts;
-  double Bound;  // of its abscissas and ordinates
-};
-constexpr Plot Plots[] = {{"instrucoes_1[3-9]|comentarios_(07|10)", 8}, {".*", 12}};
-constexpr double PlotStep = 0.0005;
-
 // An example stands between backquotes or in a line of its own; names and signs may stand there
 // too. A function has to show something on its page, a number just to have a value.
 TEST(ManualExamples, PlotOverTheWholeRangeOfTheirPage) {
   const std::regex variable("(^|[^a-z])x([^a-z]|$)", std::regex::icase);
+  const std::regex relations("instrucoes_1[3-9]|comentarios_(07|10)");
   int examples = 0;
   for (const auto& [page, groups] : Matches(R"re(`([^`]+)`|#escreva\("([^"]+)"\))re")) {
     const std::string example = groups[1] + groups[2];
@@ -101,19 +92,17 @@ TEST(ManualExamples, PlotOverTheWholeRangeOfTheirPage) {
       continue;
     }
     SCOPED_TRACE(testing::Message() << page << ": " << example);
-    const Plot* plot = Plots;
-    while (!std::regex_match(page, std::regex(plot->Texts))) {
-      ++plot;
-    }
+    // Some pages are about the graph of the relations page, the others about that of the work page.
+    const double bound = std::regex_match(page, relations) ? 8 : 12;
     const bool function = std::regex_search(example, variable);
     bool shown = false;
     clsEquation equation;
     equation.Equation(example);
-    EXPECT_NO_THROW(base::CountedLoop(-plot->Bound, plot->Bound, PlotStep, [&](double x) {
+    EXPECT_NO_THROW(base::CountedLoop(-bound, bound, 0.0005, [&](double x) {
       equation.Var("x", x);
       equation.Solve();
       const double y = equation.Solution();
-      shown |= function ? std::fabs(y) < plot->Bound : y != clsEquation::ForaDoDominio;
+      shown |= function ? std::fabs(y) < bound : y != clsEquation::ForaDoDominio;
     }));
     EXPECT_TRUE(shown);
     ++examples;
@@ -149,9 +138,7 @@ TEST(ManualExamples, RaiseTheErrorsThatThePagesGive) {
 TEST(Lesson, HasItsWordsBesideThePictures) {
   const std::pair<std::string, std::string> rows[] = {
       {"definicao", "f'(a) = lim (x→a) (f(x) - f(a))/(x - a)"},
-      {"pagina_16", "à direita, logo seguido pelas conclusões"},
       {"pagina_19", "Porém, existem clinorama laterais:"},
-      {"pagina_28", "f'(a) existir (finita ou não), a diz-se um ponto"},
       {"pagina_28", "- um ponto de reversão se as clinorama laterais"},
       {"pagina_30", "O ponto a é um ponto de anguloso."},
   };
