@@ -244,13 +244,15 @@ TEST(Surface, KeepsWhatIsDrawnWithAutoRedraw) {
   EXPECT_EQ(surface.Screen().At(1, 0), forms::Blue);
 }
 
-// A surface whose texts are two pixels: the corner, covered wholly, and its neighbour, by half.
+// A surface whose texts are three pixels: the corner, covered wholly, its neighbour, by half, and
+// one below, which is cut off.
 struct PrintedSurface : PixelSurface {
   PrintedSurface() : PixelSurface(4, 1) {}
   void PaintText(Raster& raster, const forms::TextRun& run) override {
     EXPECT_EQ(run.Y, 11) << "the height of letters of 8,25 points";
     raster.Apply(run.X, run.Y, run.Ink, forms::RasterOperation::Copy);
     raster.Apply(run.X + 1, run.Y, forms::Color{0x808080}, forms::RasterOperation::Copy);
+    raster.Apply(run.X, run.Y + 1, run.Ink, forms::RasterOperation::Copy);
     ++Painted;
   }
   int Painted = 0;
