@@ -320,7 +320,7 @@ TEST_F(RelationsTest, GraduatesInUnitsAndInRadians) {
   const double offsets[] = {0.9, 0.5, 0.6, 0.3, 0.5, 0, 0.5, 0.3, 0.6, 0.3, 0.6};
   const auto same = [](const Drawing& a, const Drawing& b) {
     const double ends = std::hypot(a.X2 - b.X2, a.Y2 - b.Y2);
-    return a.What == b.What && a.Text == b.Text &&
+    return a.What == b.What && a.Text == b.Text && a.DrawStyle == b.DrawStyle &&
            std::hypot(a.X1 - b.X1, a.Y1 - b.Y1, ends) < 1e-9;
   };
   forms::Surface expected(8000, 8000, 1);
