@@ -76,7 +76,7 @@ Fit PageWindow::FitTo(const QScreen& screen) {
 
 void PageWindow::FitOnce(const QScreen& screen) {
   const Fit fit = FitTo(screen);
-  if (fit.Zoom == zoom_) {
+  if (fit.Zoom == zoom_ && &screen == this->screen()) {
     return;
   }
   zoom_ = fit.Zoom;

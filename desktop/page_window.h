@@ -30,7 +30,7 @@ class PageWindow : public QWidget {
 
   // How pages fit a screen beside the frames that the window manager gives them.
   static Fit FitTo(const QScreen& screen);
-  // Takes the size and the place for a screen, unless the window was made for such a one.
+  // Takes the size and the place for a screen, unless the window is there already in this size.
   void FitOnce(const QScreen& screen);
 
   // Shows what a control (or the page itself) now says.
@@ -69,7 +69,6 @@ class PageWindow : public QWidget {
   QWidget* client_;
   Keyboard keyboard_;
   Announcer* announcer_;
-  QWidget* parkedAt_ = nullptr;           // had the keyboard when it was locked or hidden
   std::set<const forms::Label*> values_;  // to be announced
   QTimer announcing_;
   QTimer fitting_;
