@@ -4,6 +4,7 @@
 
 #include <qpa/qwindowsysteminterface.h>
 #include <QAbstractButton>
+#include <QAccessible>
 #include <QAction>
 #include <QApplication>
 #include <QPointer>
@@ -17,6 +18,7 @@
 #include "journal.h"
 #include "lesson/Form9.h"
 #include "shell/Form2.h"
+#include "tests/support/two_screens.h"
 #include "workpage/Form12.h"
 
 namespace clinorama::tests {
@@ -76,15 +78,19 @@ class Monkey {
     } else if (what == 1) {
       journal_.Note("activate " + name);
       window.activateWindow();
+    } else if (what == 2 && journal_.OneIn(5)) {
+      journal_.Note("move " + name);
+      window.move(journal_.Below(2900), journal_.Below(700));
     } else {
       what < 5 ? Press(window) : Click(window);
     }
   }
 
   void Press(QWidget& window) {
-    static constexpr Qt::Key Keys[] = {Qt::Key_Return, Qt::Key_Space, Qt::Key_Tab,  Qt::Key_Escape,
-                                       Qt::Key_Left,   Qt::Key_Right, Qt::Key_Down, Qt::Key_F10,
-                                       Qt::Key_Alt,    Qt::Key_X,     Qt::Key_2,    Qt::Key_Delete};
+    static constexpr Qt::Key Keys[] = {
+        Qt::Key_Return, Qt::Key_Space,  Qt::Key_Tab,    Qt::Key_Escape,  Qt::Key_Left,
+        Qt::Key_Right,  Qt::Key_Down,   Qt::Key_F10,    Qt::Key_Alt,     Qt::Key_X,
+        Qt::Key_2,      Qt::Key_Delete, Qt::Key_PageUp, Qt::Key_PageDown};
     const Qt::Key key = journal_.OneOf(Keys);
     const QString text = key == Qt::Key_X || key == Qt::Key_2 ? QString(QChar(key)) : QString();
     journal_.Note("key " + std::to_string(key) + " in " + window.objectName().toStdString());
@@ -113,6 +119,13 @@ class Monkey {
   void Click(QWidget& window) {
     QWidget* widget = ChooseWidget(window);
     last_ = widget;
+    if (journal_.OneIn(10)) {
+      journal_.Note("action of " + widget->objectName().toStdString());
+      if (auto* actions = QAccessible::queryAccessibleInterface(widget)->actionInterface()) {
+        actions->doAction(QAccessibleActionInterface::pressAction());
+      }
+      return;
+    }
     const Qt::MouseButton button = journal_.OneIn(20) ? Qt::RightButton : Qt::LeftButton;
     // Beside the middle there are the ends of bars, and the items of menus.
     const QPoint point = journal_.OneIn(2) ? widget->rect().center()
@@ -148,7 +161,7 @@ class Monkey {
 
 int main(int argc, char** argv) {
   using namespace clinorama;  // NOLINT(google-build-using-namespace): it is the end of the program
-  qputenv("QT_QPA_PLATFORM", "offscreen");
+  const tests::TwoScreens screens;
   qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
   QApplication qt(argc, argv);
   tests::Journal journal(argc, argv);
