@@ -4,6 +4,7 @@
 #include <cstdlib>
 
 #include "desktop/look.h"
+#include "desktop/program.h"
 #include "desktop/qt_host.h"
 #include "forms/application.h"
 #include "shell/Form2.h"
@@ -52,7 +53,7 @@ void GiveMemoryBack() {
 int main(int argc, char* argv[]) {
   GiveMemoryBack();
   qInstallMessageHandler(TellOfTheDisplay);
-  QApplication qt(argc, argv);
+  clinorama::desktop::Program qt(argc, argv);
   clinorama::desktop::SetLook();
   if (!QFontMetrics(QApplication::font()).inFont('a')) {
     GiveUp("não há tipos de letra instalados. Instale, por exemplo, o pacote fonts-dejavu-core.");

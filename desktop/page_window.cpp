@@ -23,7 +23,7 @@ namespace {
 // A window that the user drags to another screen settles when it has not moved for so long.
 constexpr int MillisecondsToFit = 300;
 
-// After a motion's last change its values are told, when it is really over.
+// So long after the last change the news are told.
 constexpr int MillisecondsToAnnounce = 100;
 
 // The widest frames that the window manager has given to pages so far.
@@ -36,6 +36,8 @@ QMargins FrameOfPages() {
   }
   return frame;
 }
+
+bool HasWords(const QWidget& widget) { return widget.property(WordsProperty).isValid(); }
 
 }  // namespace
 
@@ -54,7 +56,7 @@ PageWindow::PageWindow(forms::Page& page, QScreen& screen)
   SynchronisePage();
   announcing_.setSingleShot(true);
   announcing_.setInterval(MillisecondsToAnnounce);
-  announcing_.callOnTimeout([this] { AnnounceValues(); });
+  announcing_.callOnTimeout([this] { AnnounceNews(); });
   fitting_.setSingleShot(true);
   fitting_.setInterval(MillisecondsToFit);
   fitting_.callOnTimeout([this] { FitOnce(*this->screen()); });
@@ -121,32 +123,48 @@ void PageWindow::Synchronise(forms::Control& control) {
     return;
   }
   const QWidget& widget = *found->second.Widget;
-  const bool wasVisible = widget.isVisible();
   if (!control.Visible || !control.Enabled) {
     keyboard_.Leave(widget);
   }
   SynchroniseView(control, found->second, zoom_);
   keyboard_.ComeBack();
-  if (widget.isVisible() && !wasVisible && widget.property(WordsProperty).isValid()) {
-    announcer_->Announce(widget.property(WordsProperty).toString());
-  }
   if (const forms::Label* value = AsValue(control)) {
     values_.insert(value);
   }
-  if (!values_.empty()) {
+  if (!values_.empty() || HasWords(widget)) {
     announcing_.start();
   }
 }
 
-// A motion that runs, or that pauses, changes something again before it ends.
-void PageWindow::AnnounceValues() {
-  if (!forms::Application::Current().AtRest()) {
-    return;
-  }
-  for (const forms::Label* value : std::exchange(values_, {})) {
-    if (!value->Caption().empty()) {
-      announcer_->Announce(TextFor(value->SpokenName()));
+std::set<const QWidget*> PageWindow::TextsInView() const {
+  std::set<const QWidget*> texts;
+  for (const auto& [control, view] : views_) {
+    if (HasWords(*view.Widget) && view.Widget->isVisible()) {
+      texts.insert(view.Widget);
     }
+  }
+  return texts;
+}
+
+// All in one, as an announcement is lost when another follows at once. The values of a motion that
+// runs, or that pauses, change again before it ends.
+void PageWindow::AnnounceNews() {
+  QStringList news;
+  const std::set<const QWidget*> before = std::exchange(texts_, TextsInView());
+  for (const QWidget* text : texts_) {
+    if (before.count(text) == 0) {
+      news << text->property(WordsProperty).toString();
+    }
+  }
+  if (forms::Application::Current().AtRest()) {
+    for (const forms::Label* value : std::exchange(values_, {})) {
+      if (!value->Caption().empty()) {
+        news << TextFor(value->SpokenName());
+      }
+    }
+  }
+  if (!news.isEmpty()) {
+    announcer_->Announce(news.join('\n'));
   }
 }
 
@@ -155,9 +173,9 @@ QWidget* PageWindow::InPlaceOf(const QWidget& widget) const {
   if (const auto* button = dynamic_cast<const forms::CommandButton*>(ControlOf(widget))) {
     return button->Twin == nullptr ? nullptr : WidgetOf(*button->Twin);
   }
-  if (widget.property(WordsProperty).isValid()) {
+  if (HasWords(widget)) {
     for (const auto& [control, view] : views_) {
-      if (view.Widget->property(WordsProperty).isValid() && view.Widget->isVisibleTo(this)) {
+      if (HasWords(*view.Widget) && view.Widget->isVisibleTo(this)) {
         return view.Widget;
       }
     }
@@ -248,6 +266,7 @@ void PageWindow::showEvent(QShowEvent* /*event*/) {
   QObject::connect(windowHandle(), &QWindow::screenChanged, this, &PageWindow::WatchTheScreen,
                    Qt::UniqueConnection);
   WatchTheScreen();
+  texts_ = TextsInView();  // a reader finds them by itself now
 }
 
 void PageWindow::moveEvent(QMoveEvent* /*event*/) {

@@ -61,7 +61,8 @@ class PageWindow : public QWidget {
   void SynchronisePage();
   QWidget* WidgetOf(forms::Control& control) const;
   QWidget* InPlaceOf(const QWidget& widget) const;
-  void AnnounceValues();
+  std::set<const QWidget*> TextsInView() const;
+  void AnnounceNews();
 
   forms::Page* page_;
   double zoom_ = 0;  // none yet
@@ -70,6 +71,7 @@ class PageWindow : public QWidget {
   Keyboard keyboard_;
   Announcer* announcer_;
   std::set<const forms::Label*> values_;  // to be announced
+  std::set<const QWidget*> texts_;        // in view, and announced
   QTimer announcing_;
   QTimer fitting_;
   std::map<forms::Control*, View> views_;
