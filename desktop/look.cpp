@@ -12,6 +12,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "desktop/accessibility.h"
 #include "desktop/portuguese.h"
 #include "desktop/style.h"
 #include "forms/raster.h"
@@ -47,6 +48,7 @@ void SetLook() {
   QApplication::setPalette(LightPalette());
   QApplication::setFont(FontFor({}, 1));
   QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/clinorama.svg")));
+  MakeAccessible();
   static Portuguese translator;
   QApplication::installTranslator(&translator);
 }

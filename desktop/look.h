@@ -16,8 +16,8 @@ class QWidget;
 
 namespace clinorama::desktop {
 
-// Gives the program the same look on every desktop: style, light colours, base font, icon, and
-// Portuguese texts in the toolkit's own dialogs and menus.
+// Gives the program the same look on every desktop: style, light colours, base font, icon,
+// Portuguese texts in the toolkit's own dialogs and menus, and what assistive technology needs.
 void SetLook();
 
 // The program's colours.

@@ -1,15 +1,17 @@
 #include "desktop/page_window.h"
 
-#include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QMenu>
-#include <QMenuBar>
 #include <QScreen>
+#include <QShortcut>
 #include <QWindow>
 #include <algorithm>
+#include <utility>
 
+#include "desktop/accessibility.h"
 #include "desktop/look.h"
+#include "desktop/menu_bar.h"
 #include "desktop/surface_view.h"
 #include "forms/application.h"
 #include "forms/controls.h"
@@ -20,6 +22,9 @@ namespace {
 
 // A window that the user drags to another screen settles when it has not moved for so long.
 constexpr int MillisecondsToFit = 300;
+
+// How often it is tried to tell the values that a motion has come to.
+constexpr int MillisecondsToAnnounce = 100;
 
 // The widest frames that the window manager has given to pages so far.
 QMargins FrameOfPages() {
@@ -32,33 +37,21 @@ QMargins FrameOfPages() {
   return frame;
 }
 
-template <class Bar>
-void AddMenuItems(Bar& bar, const std::vector<forms::Menu*>& items) {
-  for (forms::Menu* item : items) {
-    if (item->Items().empty()) {
-      QAction* action = bar.addAction(TextFor(item->Caption));
-      action->setObjectName(TextFor(item->Name));
-      QObject::connect(action, &QAction::triggered, &bar, [item] { item->UserClick(); });
-    } else {
-      QMenu* menu = bar.addMenu(TextFor(item->Caption));
-      menu->setObjectName(TextFor(item->Name));
-      AddMenuItems(*menu, item->Items());
-    }
-  }
-}
-
 }  // namespace
 
 PageWindow::PageWindow(forms::Page& page, QScreen& screen)
     : page_(&page), client_(new QWidget(this)) {
   setObjectName(TextFor(page.Name()));
   setScreen(&screen);
+  announcer_ = new Announcer(this);
   if (!page.MenuBar().empty()) {
-    bar_ = new QMenuBar(this);
-    AddMenuItems(*bar_, page.MenuBar());
+    bar_ = new MenuBar(page, this);
   }
   AddControls(page, *client_);
+  AddKeys();
   SynchronisePage();
+  announcing_.setInterval(MillisecondsToAnnounce);
+  announcing_.callOnTimeout([this] { AnnounceValues(); });
   fitting_.setSingleShot(true);
   fitting_.setInterval(MillisecondsToFit);
   fitting_.callOnTimeout([this] { FitOnce(*this->screen()); });
@@ -118,12 +111,123 @@ void PageWindow::SynchronisePage() {
 void PageWindow::Synchronise(forms::Control& control) {
   if (&control == page_) {
     SynchronisePage();
-  } else if (const auto found = views_.find(&control); found != views_.end()) {
-    SynchroniseView(control, found->second, zoom_);
+    return;
+  }
+  const auto found = views_.find(&control);
+  if (found == views_.end()) {
+    return;
+  }
+  const QWidget& widget = *found->second.Widget;
+  const bool wasVisible = widget.isVisible();
+  if (!control.Visible || !control.Enabled) {
+    ParkKeyboard(widget);
+  }
+  SynchroniseView(control, found->second, zoom_);
+  TakeKeyboardBack();
+  if (widget.isVisible() && !wasVisible && widget.property(WordsProperty).isValid()) {
+    announcer_->Announce(widget.property(WordsProperty).toString());
+  }
+  if (const forms::Label* value = AsValue(control)) {
+    values_.insert(value);
+    announcing_.start();
   }
 }
 
-QWidget* PageWindow::WidgetOf(const forms::Control& control) const {
+// While a motion runs its values change with each step.
+void PageWindow::AnnounceValues() {
+  if (!forms::Application::Current().AtRest()) {
+    return;
+  }
+  announcing_.stop();
+  for (const forms::Label* value : std::exchange(values_, {})) {
+    if (!value->Caption().empty()) {
+      announcer_->Announce(TextFor(value->SpokenName()));
+    }
+  }
+}
+
+// The toolkit would give the keyboard to the next control, whatever that does. It stays on the
+// empty ground of the page instead, until its control is free again.
+void PageWindow::ParkKeyboard(const QWidget& widget) {
+  QWidget* focus = focusWidget();
+  if (focus != nullptr && (focus == &widget || widget.isAncestorOf(focus))) {
+    parkedAt_ = focus;
+    client_->setFocus();
+  }
+}
+
+void PageWindow::TakeKeyboardBack() {
+  if (focusWidget() != client_ || parkedAt_ == nullptr) {
+    return;
+  }
+  const auto free = [this](const QWidget* widget) {
+    return widget != nullptr && widget->isEnabledTo(this) && widget->isVisibleTo(this);
+  };
+  if (free(parkedAt_)) {
+    parkedAt_->setFocus();
+  } else if (QWidget* other = InPlaceOf(*parkedAt_); free(other)) {
+    other->setFocus();
+  }
+}
+
+// The twin of a button, or the page of a text that is seen instead of another one.
+QWidget* PageWindow::InPlaceOf(const QWidget& widget) const {
+  if (const auto* button = dynamic_cast<const forms::CommandButton*>(ControlOf(widget))) {
+    return button->Twin == nullptr ? nullptr : WidgetOf(*button->Twin);
+  }
+  if (widget.property(WordsProperty).isValid()) {
+    for (const auto& [control, view] : views_) {
+      if (view.Widget->property(WordsProperty).isValid() && view.Widget->isVisibleTo(this)) {
+        return view.Widget;
+      }
+    }
+  }
+  return nullptr;
+}
+
+// From the empty ground the tabulator goes on where the keyboard was.
+bool PageWindow::focusNextPrevChild(bool next) {
+  if (focusWidget() != client_ || parkedAt_ == nullptr) {
+    return QWidget::focusNextPrevChild(next);
+  }
+  QWidget* widget = parkedAt_;
+  do {
+    widget = next ? widget->nextInFocusChain() : widget->previousInFocusChain();
+  } while (widget != parkedAt_ && !((widget->focusPolicy() & Qt::TabFocus) != 0 &&
+                                    widget->isEnabledTo(this) && widget->isVisibleTo(this)));
+  widget->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+  return true;
+}
+
+void PageWindow::AddKeys() {
+  const auto add = [this](const QKeySequence& keys, auto action) {
+    auto* shortcut = new QShortcut(keys, this);
+    shortcut->setAutoRepeat(false);
+    QObject::connect(shortcut, &QShortcut::activated, this, action);
+  };
+  add(Qt::CTRL | Qt::Key_W, [this] { close(); });
+  if (page_->ClosedByEscape) {
+    add(Qt::Key_Escape, [this] { close(); });
+  }
+  for (const auto& [key, button] :
+       {std::pair(Qt::Key_PageUp, page_->PageUp), std::pair(Qt::Key_PageDown, page_->PageDown)}) {
+    if (button != nullptr) {
+      add(key, [button = button] { button->UserClick(); });
+    }
+  }
+  if (bar_ != nullptr) {
+    add(Qt::Key_F10, [this] { bar_->TakeKeyboard(); });
+  }
+}
+
+forms::Control* PageWindow::ControlOf(const QWidget& widget) const {
+  const auto found = std::find_if(views_.begin(), views_.end(), [&widget](const auto& view) {
+    return view.second.Widget == &widget;
+  });
+  return found == views_.end() ? nullptr : found->first;
+}
+
+QWidget* PageWindow::WidgetOf(forms::Control& control) const {
   const auto found = views_.find(&control);
   return found == views_.end() ? nullptr : found->second.Widget;
 }
@@ -149,6 +253,7 @@ void PageWindow::Focus(forms::Control& control) {
 void PageWindow::Leave() {
   page_ = nullptr;
   fitting_.stop();
+  announcing_.stop();
   views_.clear();
   hide();
   const auto cutOff = [this](QObject* object) {

@@ -3,20 +3,23 @@
 #include <QTimer>
 #include <QWidget>
 #include <map>
+#include <set>
 
 #include "desktop/fit.h"
 #include "desktop/views.h"
 
-class QMenuBar;
 class QScreen;
 
 namespace clinorama::forms {
-class Menu;
+class Label;
 class Page;
 class PictureBox;
 }  // namespace clinorama::forms
 
 namespace clinorama::desktop {
+
+class Announcer;
+class MenuBar;
 
 // The window of a page: its menu bar, its client area of fixed size, and a view of each control. It
 // is as large as it fits the screen that it is on.
@@ -38,6 +41,8 @@ class PageWindow : public QWidget {
   // Hides the window for good and cuts it off from its page: neither the window nor anything in it
   // takes an event or sends a signal from then on.
   void Leave();
+  // The control that a widget in the window shows; null where there is none, and after Leave.
+  forms::Control* ControlOf(const QWidget& widget) const;
   // The page that the window shows; null after Leave.
   forms::Page* Page() const { return page_; }
 
@@ -46,19 +51,29 @@ class PageWindow : public QWidget {
   void showEvent(QShowEvent* event) override;
   void moveEvent(QMoveEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
+  bool focusNextPrevChild(bool next) override;
 
  private:
   void WatchTheScreen();
+  void AddKeys();
   void AddControls(forms::Control& container, QWidget& parent);
   void SynchronisePage();
-  QWidget* WidgetOf(const forms::Control& control) const;
+  QWidget* WidgetOf(forms::Control& control) const;
+  void ParkKeyboard(const QWidget& widget);
+  void TakeKeyboardBack();
+  QWidget* InPlaceOf(const QWidget& widget) const;
+  void AnnounceValues();
 
   forms::Page* page_;
   double zoom_ = 0;  // none yet
-  QMenuBar* bar_ = nullptr;
+  MenuBar* bar_ = nullptr;
   QWidget* client_;
+  Announcer* announcer_;
+  QWidget* parkedAt_ = nullptr;           // had the keyboard when it was locked or hidden
+  std::set<const forms::Label*> values_;  // to be announced
+  QTimer announcing_;
   QTimer fitting_;
-  std::map<const forms::Control*, View> views_;
+  std::map<forms::Control*, View> views_;
 };
 
 }  // namespace clinorama::desktop

@@ -6,6 +6,7 @@
 #include <QWidget>
 
 #include "desktop/look.h"
+#include "desktop/menu_bar.h"
 
 namespace clinorama::desktop {
 namespace {
@@ -115,10 +116,13 @@ int Style::pixelMetric(PixelMetric metric, const QStyleOption* option,
 
 int Style::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                      QStyleHintReturn* data) const {
-  // The desktop's icons would stand on the buttons, in another size.
-  return hint == SH_DialogButtonBox_ButtonsHaveIcons
-             ? 0
-             : QProxyStyle::styleHint(hint, option, widget, data);
+  if (hint == SH_DialogButtonBox_ButtonsHaveIcons) {
+    return 0;  // they would be the desktop's, in another size
+  }
+  if (const auto* bar = dynamic_cast<const MenuBar*>(widget); hint == SH_UnderlineShortcut && bar) {
+    return bar->MarksLetters();
+  }
+  return QProxyStyle::styleHint(hint, option, widget, data);
 }
 
 QSize Style::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
@@ -154,6 +158,15 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, 
       break;
   }
   QProxyStyle::drawPrimitive(element, option, painter, widget);
+}
+
+void Style::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                        const QWidget* widget) const {
+  QProxyStyle::drawControl(element, option, painter, widget);
+  Shapes shapes(*painter, *option, widget);
+  if (element == CE_MenuBarItem && shapes.Is(State_Selected) && !shapes.Is(State_Sunken)) {
+    shapes.Focus(option->rect);
+  }
 }
 
 void Style::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,

@@ -9,12 +9,15 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QRadioButton>
+#include <QStyleOption>
+#include <QStylePainter>
 #include <QToolButton>
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
 #include <utility>
 
+#include "desktop/accessibility.h"
 #include "desktop/look.h"
 #include "desktop/speed_bar.h"
 #include "desktop/surface_view.h"
@@ -48,7 +51,7 @@ class LabelWidget : public QLabel {
   forms::Label& label_;
 };
 
-// A button that the return key presses too.
+// A button that the return key presses too, once, however long it is held.
 class ButtonWidget : public QToolButton {
  public:
   using QToolButton::QToolButton;
@@ -56,7 +59,9 @@ class ButtonWidget : public QToolButton {
  protected:
   void keyPressEvent(QKeyEvent* event) override {
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
-      click();
+      if (!event->isAutoRepeat()) {
+        click();
+      }
     } else {
       QToolButton::keyPressEvent(event);
     }
@@ -179,7 +184,8 @@ View ViewOf(forms::Label& label, QWidget& parent) {
 View ViewOf(forms::TextBox& box, QWidget& parent) {
   auto* widget = new QLineEdit(&parent);
   widget->setDragEnabled(false);  // a drag runs an event loop of its own, inside the widget
-  QObject::connect(widget, &QLineEdit::textEdited, widget,
+  // Also when it comes from assistive technology.
+  QObject::connect(widget, &QLineEdit::textChanged, widget,
                    [&box](const QString& text) { box.UserType(text.toStdString()); });
   return {widget, [&box, widget](double zoom) {
             widget->setFont(FontFor(box.Font, zoom));
@@ -245,7 +251,8 @@ View ViewOf(forms::Image& image, QWidget& parent) {
   auto* widget = new ImageWidget(image, &parent);
   if (QFile words(QStringLiteral(":/%1.txt").arg(TextFor(image.Picture)));
       words.open(QIODevice::ReadOnly)) {
-    widget->setAccessibleDescription(QString::fromUtf8(words.readAll()));
+    widget->setProperty(WordsProperty, QString::fromUtf8(words.readAll()));
+    widget->setFocusPolicy(Qt::TabFocus);
   }
   return {widget, [widget](double zoom) { widget->Place(zoom); }};
 }
@@ -305,11 +312,24 @@ QRect PlaceOf(const forms::Control& control, double zoom) {
   return {pixel(control.Left), pixel(control.Top), pixel(control.Width), pixel(control.Height)};
 }
 
+const forms::Label* AsValue(const forms::Control& control) {
+  const auto* label = dynamic_cast<const forms::Label*>(&control);
+  return label != nullptr && label->Bordered ? label : nullptr;
+}
+
 void SynchroniseView(const forms::Control& control, const View& view, double zoom) {
   view.Widget->setGeometry(PlaceOf(control, zoom));
   view.Widget->setEnabled(control.Enabled);
-  view.Widget->setToolTip(TextFor(control.ToolTipText));
-  view.Widget->setAccessibleName(TextFor(control.SpokenName()));
+  const QString toolTip = TextFor(control.ToolTipText);
+  if (view.Widget->toolTip() != toolTip) {
+    view.Widget->setToolTip(toolTip);
+  }
+  const QString name = TextFor(control.SpokenName());
+  // Each change is told to assistive technology.
+  if (view.Widget->accessibleName().isEmpty() ||
+      (view.Widget->accessibleName() != name && AsValue(control) == nullptr)) {
+    view.Widget->setAccessibleName(name);
+  }
   view.Synchronise(zoom);
   view.Widget->setVisible(control.Visible);
 }

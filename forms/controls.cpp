@@ -58,6 +58,11 @@ void CommandButton::UserClick() {
   }
 }
 
+void Pair(CommandButton& a, CommandButton& b) {
+  a.Twin = &b;
+  b.Twin = &a;
+}
+
 OptionButton::OptionButton(Container& parent, std::string name, const Rect& rect,
                            std::string caption, std::string toolTip)
     : Control(parent, std::move(name), rect), Caption(*this, std::move(caption)) {

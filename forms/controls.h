@@ -66,6 +66,9 @@ class CommandButton : public Control {
   Property<std::string> Caption;
   Property<forms::Font> Font{*this, {.Name = "MS Serif", .Size = 6}};
   const std::string Picture;  // the name of a picture, such as "icons/cor"
+  // The button that is shown in the place of this one while this one is hidden; null where there is
+  // none. A host hands the keyboard over to it.
+  CommandButton* Twin = nullptr;
 
   Event Click;
   void UserClick();
@@ -73,6 +76,9 @@ class CommandButton : public Control {
  protected:
   std::string CaptionText() const override { return Caption(); }
 };
+
+// Makes each of two buttons the other's twin.
+void Pair(CommandButton& a, CommandButton& b);
 
 // One of several choices in a container; marking one takes the mark from the others.
 class OptionButton : public Control {

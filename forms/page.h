@@ -7,6 +7,7 @@
 
 namespace clinorama::forms {
 
+class CommandButton;
 class Menu;
 
 enum class MousePointer { Default = 0, Hourglass = 11 };
@@ -26,6 +27,12 @@ class Page : public Container {
   Property<forms::MousePointer> MousePointer{*this, forms::MousePointer::Default};
 
   const std::vector<Menu*>& MenuBar() const { return menuBar_; }
+
+  // What a host's keys do on this page. Page Up and Page Down, as a presenter's remote sends them,
+  // press these buttons; null where there are none. Escape closes the page as its frame does.
+  CommandButton* PageUp = nullptr;
+  CommandButton* PageDown = nullptr;
+  bool ClosedByEscape = false;
 
   // Shows the page above the others, or brings it there.
   void Show();

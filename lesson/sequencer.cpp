@@ -73,6 +73,10 @@ const Form9::LessonPage Form9::LessonPages[LastPage] = {
 };
 
 Form9::Form9() : Page("Form9", {0, 690, 15345, 10605}, "CLINORAMA") {
+  AccessibleName = "Conceito de derivada";
+  PageUp = &Anterior;
+  PageDown = &Seguinte;
+  forms::Pair(Parar, Continuar);
   Label1.Font = {.Name = "Comic Sans MS", .Size = 14.25, .Bold = true};
   Label1.ForeColor = forms::Red;
   Opções.ForeColor = forms::Blue;

@@ -7,6 +7,7 @@
 namespace clinorama {
 
 Form13::Form13() : Page("Form13", {120, 330, 15165, 11100}, "CLINORAMA") {
+  AccessibleName = "Relação da função com as derivadas";
   Label4.Font = {.Name = "Comic Sans MS", .Size = 18, .Bold = true};
   Label4.ForeColor = forms::Red;
   for (forms::Label* legend : {&Label1, &Label2}) {

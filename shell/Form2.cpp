@@ -12,6 +12,7 @@ namespace clinorama {
 using forms::The;
 
 Form2::Form2() : Page("Form2", {120, 690, 15240, 10650}, "CLINORAMA") {
+  AccessibleName = "Apresentação";
   Label1.Font = {.Name = "Comic Sans MS", .Size = 48, .Bold = true};
   Label1.ForeColor = forms::Red;
   Label1.Alignment = forms::Alignment::Center;

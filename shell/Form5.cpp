@@ -64,6 +64,7 @@ Form5::Form5()
     : Page("Form5", ClientAreaOf(WindowLeft, WindowTop, WindowWidth, WindowHeight), "EXEMPLOS") {
   FrameClinorama.ForeColor = forms::Blue;
   Label7.Alignment = forms::Alignment::Right;
+  ClosedByEscape = true;
   Fechar.Font = forms::Font{};
   Fechar.Click = [this] { UserClose(); };
 

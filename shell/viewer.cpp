@@ -33,6 +33,9 @@ PageViewer::PageViewer(const ViewerKind& kind)
                return MakePage(*this, kind, page, name);
              }),
       kind_(kind) {
+  PageUp = &SetaE;
+  PageDown = &SetaD;
+  ClosedByEscape = true;
   SetaE.AccessibleName = "Página anterior";
   SetaD.AccessibleName = "Página seguinte";
   Label2.Alignment = forms::Alignment::Center;

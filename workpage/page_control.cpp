@@ -24,6 +24,7 @@ Form12::Form12() : Page("Form12", {120, 690, 15240, 10650}, "CLINORAMA") {
 }
 
 void Form12::SetLook() {
+  AccessibleName = "Página de trabalho";
   Label4.Font = {.Name = "Comic Sans MS", .Size = 18, .Bold = true};
   Label4.ForeColor = forms::Red;
   for (forms::Frame* frame : {&Frame2, &FrameOpções, &Frame1, &Frame3, &Velocidade}) {
@@ -63,6 +64,8 @@ void Form12::BindCanvas() {
 }
 
 void Form12::BindMotions() {
+  forms::Pair(Parar, Continuar);
+  forms::Pair(Parar1, Continuar1);
   Abcissa.Change = [this] { ClearDerivatives(); };
   DerivadaEsquerda.Click = [this] { DerivadaEsquerda_Click(); };
   DerivadaDireita.Click = [this] { DerivadaDireita_Click(); };
