@@ -1,7 +1,6 @@
 #include "desktop/menu_bar.h"
 
 #include <QAction>
-#include <QApplication>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QSet>
@@ -47,14 +46,6 @@ void AddItems(Bar& bar, const std::vector<forms::Menu*>& items) {
 
 MenuBar::MenuBar(forms::Page& page, QWidget* parent) : QMenuBar(parent) {
   AddItems(*this, page.MenuBar());
-}
-
-// The toolkit does so when Alt is pressed and let go of.
-void MenuBar::TakeKeyboard() {
-  for (const auto type : {QEvent::ShortcutOverride, QEvent::KeyRelease}) {
-    QKeyEvent alt(type, Qt::Key_Alt, Qt::AltModifier);
-    QApplication::sendEvent(window(), &alt);
-  }
 }
 
 // The toolkit watches the window here, and every widget while Alt is pressed.

@@ -14,8 +14,6 @@ class MenuBar : public QMenuBar {
  public:
   MenuBar(forms::Page& page, QWidget* parent);
 
-  // Moves the keyboard to the bar, or back.
-  void TakeKeyboard();
   bool MarksLetters() const { return altPressed_ || hasFocus(); }
 
  protected:

@@ -216,7 +216,7 @@ void PageWindow::AddKeys() {
     }
   }
   if (bar_ != nullptr) {
-    add(Qt::Key_F10, [this] { bar_->TakeKeyboard(); });
+    add(Qt::Key_F10, [this] { bar_->setActiveAction(bar_->actions().first()); });
   }
 }
 

@@ -8,27 +8,46 @@
 #include <QApplication>
 #include <QDir>
 #include <QImage>
+#include <QPainter>
+#include <QPainterPath>
 #include <QPixmap>
+#include <QTemporaryFile>
 #include <QWidget>
 #include <cstdio>
 #include <functional>
+#include <memory>
 #include <string>
 #include <vector>
 
 #include "desktop/look.h"
 #include "desktop/qt_host.h"
 #include "forms/application.h"
+#include "forms/picture_box.h"
 #include "lesson/Form9.h"
 #include "relations/Form13.h"
 #include "shell/Form2.h"
 #include "shell/Form5.h"
-#include "shell/viewers.h"
+#include "tools/recording.h"
 #include "workpage/Form12.h"
 
 namespace clinorama {
 namespace {
 
 using forms::The;
+using tools::Opened;
+using tools::Recording;
+using tools::Trace;
+
+// Device pixels to a logical pixel of the pages, so that their texts stay sharp.
+constexpr int Density = 2;
+// And pixels of a picture to one of the manual's page that holds it.
+constexpr int Sharpness = 2;
+// In pixels of the manual's page.
+constexpr double CurveWidth = 2.2;
+constexpr double LineWidth = 1.8;
+constexpr double DotWidth = 6;
+
+constexpr double MarkerScale = 1.6;  // of the markers of points
 
 QString folder;
 
@@ -41,27 +60,95 @@ QWidget* WindowOf(const forms::Page& page) {
   return nullptr;
 }
 
-// A picture of a whole page, or of one of its controls. Whole pages are made smaller here,
-// smoothly: the manual shows them smaller still, and thin lines would be lost if it had to do it
-// all.
-void Take(forms::Page& page, const char* name, const char* control = nullptr) {
-  constexpr double WholePageScale = 2.0 / 3;
-  QWidget* widget = WindowOf(page);
-  if (widget != nullptr && control != nullptr) {
-    widget = widget->findChild<QWidget*>(control);
-  }
-  QImage picture;
-  if (widget != nullptr) {
-    picture = widget->grab().toImage();
-  }
-  if (control == nullptr && !picture.isNull()) {
-    picture =
-        picture.scaledToWidth(qRound(picture.width() * WholePageScale), Qt::SmoothTransformation);
-  }
+[[noreturn]] void Fail(const char* name) {
+  std::fprintf(stderr, "page_pictures: no picture %s\n", name);
+  std::exit(EXIT_FAILURE);
+}
+
+void Save(const QImage& picture, const char* name) {
   if (!picture.save(QDir(folder).filePath(QString("%1.png").arg(name)))) {
-    std::fprintf(stderr, "page_pictures: no picture %s\n", name);
-    std::exit(EXIT_FAILURE);
+    Fail(name);
   }
+}
+
+// A picture of one of a page's controls.
+void TakeControl(const forms::Page& page, const char* name, const char* control) {
+  QWidget* window = WindowOf(page);
+  QWidget* widget = window == nullptr ? nullptr : window->findChild<QWidget*>(control);
+  if (widget == nullptr) {
+    Fail(name);
+  }
+  Save(widget->grab().toImage(), name);
+}
+
+// A drawing surface of a page with what was drawn on it.
+struct Drawn {
+  forms::PictureBox& Surface;
+  std::unique_ptr<Recording> Traces;
+
+  explicit Drawn(forms::PictureBox& surface)
+      : Surface(surface), Traces(std::make_unique<Recording>(surface)) {}
+};
+
+// Draws the curves of a surface again, wider: a line of one pixel would be lost in a smaller
+// picture. `scale` is that of the smaller one.
+void DrawWider(QPainter& painter, const Drawn& drawn, double scale) {
+  for (const Trace& trace : drawn.Traces->Now()) {
+    const bool dots = trace.What == Trace::Kind::Dot;
+    if (trace.What == Trace::Kind::Guide) {
+      continue;
+    }
+    QPainterPath path;
+    for (const tools::Point& point : trace.Points) {
+      const QPointF place(drawn.Surface.LogicalX(point.X), drawn.Surface.LogicalY(point.Y));
+      if (path.elementCount() == 0) {
+        path.moveTo(place);
+        path.lineTo(place + QPointF(0.01, 0));  // a single point is drawn as well
+      } else {
+        path.lineTo(place);
+      }
+    }
+    const double width = dots ? DotWidth : trace.What == Trace::Kind::Line ? LineWidth : CurveWidth;
+    painter.setPen(
+        QPen(QColor(trace.Pen.Rgb), width / scale, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.drawPath(path);
+  }
+}
+
+// A part of a page, in its logical pixels. It is `width` pixels wide in the manual.
+void Take(const forms::Page& page, const char* name, const QRect& part, int width,
+          const std::vector<const Drawn*>& surfaces = {}) {
+  QWidget* window = WindowOf(page);
+  if (window == nullptr) {
+    Fail(name);
+  }
+  QImage shot = window->grab().toImage();
+  for (const Drawn* drawn : surfaces) {
+    QWidget* view = window->findChild<QWidget*>(desktop::TextFor(drawn->Surface.Name()));
+    if (view == nullptr) {
+      Fail(name);
+    }
+    const QRect place(view->mapTo(window, QPoint(0, 0)), view->size());
+    QPainter painter(&shot);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setClipRect(place);
+    painter.save();
+    painter.translate(place.topLeft());
+    DrawWider(painter, *drawn, static_cast<double>(width) / part.width());
+    painter.restore();
+    for (QWidget* picture : view->findChildren<QWidget*>()) {
+      if (picture->isVisible()) {
+        const bool marker = picture->objectName().startsWith("Image1(");
+        painter.save();
+        painter.translate(QRectF(picture->geometry()).center() + place.topLeft());
+        painter.scale(marker ? MarkerScale : 1, marker ? MarkerScale : 1);
+        picture->render(&painter, -picture->rect().center(), QRegion(), QWidget::DrawChildren);
+        painter.restore();
+      }
+    }
+  }
+  const QRect pixels(part.topLeft() * Density, part.size() * Density);
+  Save(shot.copy(pixels).scaledToWidth(width * Sharpness, Qt::SmoothTransformation), name);
 }
 
 // A host without waits that can take a picture in the middle of a motion.
@@ -86,98 +173,85 @@ class Camera : public desktop::QtHost {
   std::function<void()> take_;
 };
 
-void TakeWorkPage(Camera& camera) {
-  auto& page = The<Form12>();
-  page.Show();
-  for (const auto& [name, control] :
-       std::vector<std::pair<const char*, const char*>>{{"trabalho_expressao", "Frame2"},
-                                                        {"trabalho_opcoes", "FrameOpções"},
-                                                        {"trabalho_ponto", "Frame1"},
-                                                        {"trabalho_todos", "Frame3"},
-                                                        {"trabalho_velocidade", "Velocidade"}}) {
-    Take(page, name, control);
+// The whole of a page below its menu.
+QRect PageOf(const forms::Page& page) {
+  const QWidget* window = WindowOf(page);
+  if (window == nullptr) {
+    Fail(page.Name().c_str());
   }
+  const int menu = page.MenuBar().empty() ? 0 : 22;
+  return {0, menu, window->width(), window->height() - menu};
+}
+
+void TakeWorkPage() {
+  const Opened<Form12> opened;
+  Form12& page = opened.Page();
+  const Drawn canvas(page.Picture1);
   page.DesenharGráfico.UserClick();
-  camera.TakeInMotion(
-      180, [&page] { page.DerivadaEsquerda.UserClick(); },
-      [&page] { Take(page, "trabalho_semi_secante"); });
+  page.DerivadaEsquerda.UserClick();
   page.DerivadaDireita.UserClick();
-  Take(page, "trabalho");
-  page.ApagarGráfico.UserClick();
-  page.DesenharGráfico.UserClick();
-  camera.TakeInMotion(
-      14500, [&page] { page.Calcular.UserClick(); }, [&page] { Take(page, "trabalho_tangente"); });
-  page.EixosRad.UserClick();
-  page.Função1.UserType("3sen(x)");
-  page.DesenharGráfico.UserClick();
-  Take(page, "trabalho_radianos");
-  page.UserClose();
+  Take(page, "trabalho", PageOf(page), 390, {&canvas});
 }
 
 void TakeRelations() {
-  auto& page = The<Form13>();
-  page.Show();
+  const Opened<Form13> opened;
+  Form13& page = opened.Page();
   for (const auto& [name, control] :
        std::vector<std::pair<const char*, const char*>>{{"relacao_botoes_funcao", "Frame2"},
                                                         {"relacao_botoes_primeira", "Frame4"},
                                                         {"relacao_botoes_segunda", "Frame5"}}) {
-    Take(page, name, control);
+    TakeControl(page, name, control);
   }
-  const auto press = [](std::initializer_list<forms::CommandButton*> buttons) {
-    for (forms::CommandButton* button : buttons) {
-      button->UserClick();
-    }
-  };
-  press({&page.DesenharGráfico, &page.DesenharPrimeira, &page.DesenharSegunda});
-  Take(page, "relacao");
-  press({&page.ExtremosFunção, &page.InflexõesFunção, &page.ZerosPrimeira, &page.ZerosSegunda});
-  Take(page, "relacao_pontos");
-  const auto clear = [&] {
-    press({&page.ApagarGráfico1, &page.ApagarPrimeira, &page.ApagarSegunda});
-  };
-  clear();
-  press({&page.ColocarCoresFunção, &page.ColocarCoresPrimeira1});
-  Take(page, "relacao_colorir1");
-  clear();
-  press({&page.ColocarCoresFunção2, &page.ColocarCoresPrimeira2, &page.ColocarCoresSegunda});
-  Take(page, "relacao_colorir2");
-  press({&page.EixosRad, &page.EixosRad1, &page.EixosRad2});
-  press({&page.DesenharGráfico, &page.DesenharPrimeira, &page.DesenharSegunda});
-  Take(page, "relacao_radianos");
-  page.UserClose();
+  page.Função1.UserType("x*(1-cos(x))/2");  // as it comes from the work page
+  const Drawn function(page.Picture1(1));
+  const Drawn first(page.Picture1(3));
+  const Drawn second(page.Picture1(5));
+  page.DesenharGráfico.UserClick();
+  page.DesenharPrimeira.UserClick();
+  page.DesenharSegunda.UserClick();
+  Take(page, "relacao", PageOf(page), 366, {&function, &first, &second});
 }
 
 void TakeLesson(Camera& camera) {
-  auto& page = The<Form9>();
-  page.Show();
-  Take(page, "conceito");
-  Take(page, "conceito_opcoes", "Opções");
+  const Opened<Form9> opened;
+  Form9& page = opened.Page();
+  TakeControl(page, "conceito_opcoes", "Opções");
+  const Drawn drawing(page.Picture1);
   constexpr int PageOfTheTurningSemiSecant = 8;
   for (int number = 1; number < PageOfTheTurningSemiSecant; ++number) {
     page.Seguinte.UserClick();
   }
   camera.TakeInMotion(
-      150, [&page] { page.Seguinte.UserClick(); }, [&page] { Take(page, "conceito_movimento"); });
-  page.UserClose();
+      150, [&page] { page.Seguinte.UserClick(); },
+      [&] { Take(page, "conceito", PageOf(page), 400, {&drawing}); });
 }
 
 void TakeAll(Camera& camera) {
   The<Form2>().Show();
-  Take(The<Form2>(), "apresentacao");
-  TakeWorkPage(camera);
+  Take(The<Form2>(), "apresentacao", {0, 0, 720, 110}, 554);
+  TakeWorkPage();
   TakeRelations();
   TakeLesson(camera);
-  The<Form12>().Exemplos.UserClick();
-  Take(The<Form5>(), "exemplos");
-  The<Form3>().Show();
-  Take(The<Form3>(), "sintaxe_janela");
+  const Opened<Form12> workPage;
+  workPage.Page().Exemplos.UserClick();
+  Take(The<Form5>(), "exemplos", PageOf(The<Form5>()), 222);
 }
 
 }  // namespace
 }  // namespace clinorama
 
 int main(int argc, char* argv[]) {
-  qputenv("QT_QPA_PLATFORM", "offscreen");
+  // The screen that pages are laid out for, so that they are not zoomed.
+  QTemporaryFile screens;
+  screens.open();
+  screens.write(QStringLiteral(R"({"screens": [{"name": "", "x": 0, "y": 0,
+      "width": %1, "height": %2, "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})")
+                    .arg(1024 * clinorama::Density)
+                    .arg(768 * clinorama::Density)
+                    .toUtf8());
+  screens.flush();
+  qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + screens.fileName().toUtf8());
+  qputenv("QT_SCALE_FACTOR", QByteArray::number(clinorama::Density));
   QApplication qt(argc, argv);
   if (argc != 2) {
     std::fprintf(stderr, "usage: page_pictures FOLDER\n");

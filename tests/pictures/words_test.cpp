@@ -135,6 +135,18 @@ TEST(ManualExamples, PlotOverTheWholeRangeOfTheirPage) {
   EXPECT_GT(examples, 200);
 }
 
+// Each large picture of the examples window names its expression, and the manual lists them.
+TEST(ManualExamples, ListThoseOfTheExamplesWindow) {
+  for (int number = 1; number <= 6; ++number) {
+    const std::string picture = Contents("examples/exemplo_" + std::to_string(number) + ".svg");
+    std::smatch name;
+    ASSERT_TRUE(std::regex_search(picture, name, std::regex(">([^<]+)</text>"))) << number;
+    EXPECT_NE(SourceOf("manual/instrucoes_09.typ").find("`" + name[1].str() + "`"),
+              std::string::npos)
+        << name[1];
+  }
+}
+
 // `7/2` = 3,5 is the very value; `sqr(2)` ≈ 1,4142 is rounded, to four decimals or more.
 TEST(ManualExamples, HaveTheValuesThatThePagesGive) {
   const std::vector<Match> matches = Matches(R"re(`([^`]+)` (=|≈) (-?[0-9]+(?:,([0-9]+))?))re");
