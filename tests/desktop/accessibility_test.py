@@ -41,7 +41,7 @@ def check_page(window, counts, locked):
     check(f"controls of {page}", Counter(node.role for node in controls), counts)
     check(f"locked on {page}",
           {node.name for node in controls if "enabled" not in node.states}, locked)
-    spoken = Counter((node.parent.name, node.role, node.name) for node in controls)
+    spoken = Counter(node.place() for node in controls)
     check(f"not to be told apart on {page}", [name for name in spoken if spoken[name] > 1], [])
     check(f"without a name on {page}",
           {node.role for node in nodes if not node.name} - {"filler", "menu bar", "notification"},

@@ -19,22 +19,29 @@ from gi.repository import Atspi, GLib
 PATIENCE = 60  # seconds, in which also a slow machine does what is waited for
 
 
+def states_of(accessible):
+    return {state.value_nick for state in accessible.get_state_set().get_states()}
+
+
 class Node:
     """A window, a control or a menu item as it was when it was looked at."""
 
-    def __init__(self, accessible, parent=None):
+    def __init__(self, accessible):
         self.accessible = accessible
-        self.parent = parent
         self.role = accessible.get_role_name()
         self.name = accessible.get_name()
-        self.states = {state.value_nick for state in accessible.get_state_set().get_states()}
+        self.states = states_of(accessible)
+
+    def place(self):
+        """What tells it from others: role, name, and the name of what it is in."""
+        return self.role, self.name, self.accessible.get_parent().get_name()
 
     def children(self):
         """Those that can be seen."""
-        accessibles = map(self.accessible.get_child_at_index,
-                          range(self.accessible.get_child_count()))
-        nodes = (Node(accessible, self) for accessible in accessibles if accessible)
-        return [node for node in nodes if "showing" in node.states]
+        for i in range(self.accessible.get_child_count()):
+            child = self.accessible.get_child_at_index(i)
+            if child and "showing" in states_of(child):
+                yield Node(child)
 
     def nodes(self):
         yield self
@@ -70,16 +77,32 @@ class Program:
         self._desktop = Atspi.get_desktop(0)
         self._desktop.set_cache_mask(Atspi.Cache.NONE)
         self.announced = []  # all that the program said unasked
+        self._keyboard_at = None
         self._listener = Atspi.EventListener.new(self._hear)
-        self._listener.register("object:state-changed:showing")
+        for state in ("focused", "showing"):
+            self._listener.register(f"object:state-changed:{state}")
         always_on = {"QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1"}
         self.process = subprocess.Popen([path], env=os.environ | always_on)
         atexit.register(self.process.kill)
 
     def _hear(self, event):
-        if event.detail1 and event.source.get_role_name() == "notification":
-            if text := event.source.get_name():
-                self.announced.append(text)
+        if not event.detail1:
+            return
+        node = Node(event.source)
+        if "focused" in event.type:
+            self._keyboard_at = node.place()
+        elif node.role == "notification" and node.name:
+            self.announced.append(node.name)
+
+    @staticmethod
+    def _listen():
+        while GLib.MainContext.default().iteration(False):
+            pass
+
+    def keyboard_at(self):
+        """The place of what last got the keyboard; None before that."""
+        self._listen()
+        return self._keyboard_at
 
     def windows(self):
         return [window for program in Node(self._desktop).children()
@@ -102,8 +125,7 @@ class Program:
         """Gives the first result of the condition that is true."""
         end = time.monotonic() + PATIENCE
         while time.monotonic() < end and self.process.poll() is None:
-            while GLib.MainContext.default().iteration(False):
-                pass
+            self._listen()
             try:
                 if result := condition():
                     return result
