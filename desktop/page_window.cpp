@@ -23,7 +23,7 @@ namespace {
 // A window that the user drags to another screen settles when it has not moved for so long.
 constexpr int MillisecondsToFit = 300;
 
-// How often it is tried to tell the values that a motion has come to.
+// After a motion's last change its values are told, when it is really over.
 constexpr int MillisecondsToAnnounce = 100;
 
 // The widest frames that the window manager has given to pages so far.
@@ -50,6 +50,7 @@ PageWindow::PageWindow(forms::Page& page, QScreen& screen)
   AddControls(page, *client_);
   AddKeys();
   SynchronisePage();
+  announcing_.setSingleShot(true);
   announcing_.setInterval(MillisecondsToAnnounce);
   announcing_.callOnTimeout([this] { AnnounceValues(); });
   fitting_.setSingleShot(true);
@@ -129,16 +130,17 @@ void PageWindow::Synchronise(forms::Control& control) {
   }
   if (const forms::Label* value = AsValue(control)) {
     values_.insert(value);
+  }
+  if (!values_.empty()) {
     announcing_.start();
   }
 }
 
-// While a motion runs its values change with each step.
+// A motion that runs, or that pauses, changes something again before it ends.
 void PageWindow::AnnounceValues() {
   if (!forms::Application::Current().AtRest()) {
     return;
   }
-  announcing_.stop();
   for (const forms::Label* value : std::exchange(values_, {})) {
     if (!value->Caption().empty()) {
       announcer_->Announce(TextFor(value->SpokenName()));
