@@ -15,6 +15,13 @@ def press(*keys, how="key"):
     subprocess.run(["xdotool", how, *keys], check=True)
 
 
+def hold(keys):
+    """Until they have repeated some times."""
+    press(keys, how="keydown")
+    time.sleep(1)
+    press(keys, how="keyup")
+
+
 def press_and_follow(key):
     """Gives the place where the keyboard is then."""
     before = program.keyboard_at()
@@ -128,7 +135,7 @@ turn_lesson("Page_Down", "Final")
 press("F5", "period")  # a presenter's remote sends them too
 for page in (28, 26, 24, 22, 20, 18, 16, 15, 5, 4, 3, 2, 1):
     turn_lesson("Page_Up", page)
-press("ctrl+w")
+hold("ctrl+w")
 program.wait_for("frame", PRESENTATION, "active")
 
 press("alt+s")
@@ -137,11 +144,8 @@ check_tabulator()
 press("Page_Down")
 program.wait_for("document frame", "Página 2")
 go_by("Tab", "Página seguinte")
-for page in (3, 4):  # held on the last page too, the key presses nothing again
-    press("Return", how="keydown")
-    program.wait_for("document frame", f"Página {page}")
-    time.sleep(1)  # the key repeats meanwhile
-    press("Return", how="keyup")
+for page in (3, 4, 4):
+    hold("Return")
     program.wait_for("document frame", f"Página {page}")
 press("Escape")
 program.wait_for("frame", PRESENTATION, "active")
