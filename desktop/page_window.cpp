@@ -40,7 +40,9 @@ QMargins FrameOfPages() {
 }  // namespace
 
 PageWindow::PageWindow(forms::Page& page, QScreen& screen)
-    : page_(&page), client_(new QWidget(this)) {
+    : page_(&page),
+      client_(new QWidget(this)),
+      keyboard_(*this, *client_, [this](const QWidget& widget) { return InPlaceOf(widget); }) {
   setObjectName(TextFor(page.Name()));
   setScreen(&screen);
   announcer_ = new Announcer(this);
@@ -74,7 +76,7 @@ Fit PageWindow::FitTo(const QScreen& screen) {
 
 void PageWindow::FitOnce(const QScreen& screen) {
   const Fit fit = FitTo(screen);
-  if (fit.Zoom == zoom_) {
+  if (fit.Zoom == zoom_ && &screen == this->screen()) {
     return;
   }
   zoom_ = fit.Zoom;
@@ -121,10 +123,10 @@ void PageWindow::Synchronise(forms::Control& control) {
   const QWidget& widget = *found->second.Widget;
   const bool wasVisible = widget.isVisible();
   if (!control.Visible || !control.Enabled) {
-    ParkKeyboard(widget);
+    keyboard_.Leave(widget);
   }
   SynchroniseView(control, found->second, zoom_);
-  TakeKeyboardBack();
+  keyboard_.ComeBack();
   if (widget.isVisible() && !wasVisible && widget.property(WordsProperty).isValid()) {
     announcer_->Announce(widget.property(WordsProperty).toString());
   }
@@ -148,30 +150,6 @@ void PageWindow::AnnounceValues() {
   }
 }
 
-// The toolkit would give the keyboard to the next control, whatever that does. It stays on the
-// empty ground of the page instead, until its control is free again.
-void PageWindow::ParkKeyboard(const QWidget& widget) {
-  QWidget* focus = focusWidget();
-  if (focus != nullptr && (focus == &widget || widget.isAncestorOf(focus))) {
-    parkedAt_ = focus;
-    client_->setFocus();
-  }
-}
-
-void PageWindow::TakeKeyboardBack() {
-  if (focusWidget() != client_ || parkedAt_ == nullptr) {
-    return;
-  }
-  const auto free = [this](const QWidget* widget) {
-    return widget != nullptr && widget->isEnabledTo(this) && widget->isVisibleTo(this);
-  };
-  if (free(parkedAt_)) {
-    parkedAt_->setFocus();
-  } else if (QWidget* other = InPlaceOf(*parkedAt_); free(other)) {
-    other->setFocus();
-  }
-}
-
 // The twin of a button, or the page of a text that is seen instead of another one.
 QWidget* PageWindow::InPlaceOf(const QWidget& widget) const {
   if (const auto* button = dynamic_cast<const forms::CommandButton*>(ControlOf(widget))) {
@@ -187,18 +165,8 @@ QWidget* PageWindow::InPlaceOf(const QWidget& widget) const {
   return nullptr;
 }
 
-// From the empty ground the tabulator goes on where the keyboard was.
 bool PageWindow::focusNextPrevChild(bool next) {
-  if (focusWidget() != client_ || parkedAt_ == nullptr) {
-    return QWidget::focusNextPrevChild(next);
-  }
-  QWidget* widget = parkedAt_;
-  do {
-    widget = next ? widget->nextInFocusChain() : widget->previousInFocusChain();
-  } while (widget != parkedAt_ && !((widget->focusPolicy() & Qt::TabFocus) != 0 &&
-                                    widget->isEnabledTo(this) && widget->isVisibleTo(this)));
-  widget->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
-  return true;
+  return keyboard_.GoOn(next) || QWidget::focusNextPrevChild(next);
 }
 
 void PageWindow::AddKeys() {
