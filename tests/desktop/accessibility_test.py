@@ -5,15 +5,13 @@ import sys
 from collections import Counter
 from pathlib import Path
 
-from accessible_program import Program
+from accessible_program import PRESENTATION, WORK_PAGE, Program
 
 RESOURCES = Path(__file__).resolve().parents[2] / "resources"
 
 # For each page its window, the window and the control that open it, how many controls it shows of
 # each role, and which of them are locked.
 VIEWER = {"document frame": 1, "push button": 3}
-PRESENTATION = "Apresentação: CLINORAMA"
-WORK_PAGE = "Página de trabalho: CLINORAMA"
 PAGES = [
     ("SINTAXE", PRESENTATION, "Sintaxe", VIEWER, {"Página anterior"}),
     ("FUNÇÕES DEFINIDAS", PRESENTATION, "Funções definidas", VIEWER, {"Página anterior"}),
@@ -114,7 +112,7 @@ def check_derivative():
 
 
 program = Program(sys.argv[1])
-program.wait_for("frame", PRESENTATION, "active")
+check_page(program.wait_for("frame", PRESENTATION, "active"), {}, set())
 check_pages()
 program.find("push button", "Sair ").act()
 come_back_to_the_work_page()

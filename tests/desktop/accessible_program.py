@@ -18,6 +18,10 @@ from gi.repository import Atspi, GLib
 
 PATIENCE = 60  # seconds, in which also a slow machine does what is waited for
 
+# The names of windows.
+PRESENTATION = "Apresentação: CLINORAMA"
+WORK_PAGE = "Página de trabalho: CLINORAMA"
+
 
 def states_of(accessible):
     return {state.value_nick for state in accessible.get_state_set().get_states()}

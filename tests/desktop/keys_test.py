@@ -5,10 +5,7 @@ import subprocess
 import sys
 import time
 
-from accessible_program import PATIENCE, Program
-
-PRESENTATION = "Apresentação: CLINORAMA"
-WORK_PAGE = "Página de trabalho: CLINORAMA"
+from accessible_program import PATIENCE, PRESENTATION, WORK_PAGE, Program
 
 
 def press(*keys, how="key"):
