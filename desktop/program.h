@@ -2,6 +2,8 @@
 
 #include <QApplication>
 
+class QKeyEvent;
+
 namespace clinorama::desktop {
 
 // The toolkit's application, where a key that is held down acts once. Only text, the speed bar,
