@@ -25,11 +25,11 @@ class KeyboardTest : public DesktopTest {
     return widget == nullptr ? QString() : widget->objectName();
   }
 
-  static void Press(const char* page, int key, Qt::KeyboardModifiers modifiers = {}) {
+  static void Press(const char* page, Qt::Key key) {
     Window(page)->activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(Window(page)));
     QWidget* focus = Window(page)->focusWidget();
-    QTest::keyClick(focus == nullptr ? Window(page) : focus, Qt::Key(key), modifiers);
+    QTest::keyClick(focus == nullptr ? Window(page) : focus, key);
   }
 };
 
