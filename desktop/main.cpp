@@ -4,6 +4,7 @@
 #include <cstdlib>
 
 #include "desktop/look.h"
+#include "desktop/program.h"
 #include "desktop/qt_host.h"
 #include "forms/application.h"
 #include "shell/Form2.h"
@@ -53,7 +54,7 @@ void GiveMemoryBack() {
 int main(int argc, char* argv[]) {
   GiveMemoryBack();
   qInstallMessageHandler(TellOfTheDisplay);
-  QApplication qt(argc, argv);
+  clinorama::desktop::Program qt(argc, argv);
   QApplication::setApplicationVersion(QString::fromLatin1(clinorama::Version));
   clinorama::desktop::SetLook();
   if (!QFontMetrics(QApplication::font()).inFont('a')) {

@@ -20,10 +20,13 @@ display_packages=(xvfb openbox xauth x11-utils)
 # shellcheck disable=SC2034
 viewing_packages=(x11vnc)
 
-# To test: the smoke test drives a real window, a random user fills the toolkit's own queue of events,
-# and the layout of the code is checked.
+# To test: real windows are driven by keys and on an accessibility bus, a random user fills the
+# toolkit's own queue of events, and the layout of the code is checked.
 # shellcheck disable=SC2034
-test_packages=(xdotool imagemagick clang-format-16 qt6-base-private-dev)
+test_packages=(
+  xdotool imagemagick at-spi2-core dbus-daemon gir1.2-atspi-2.0 python3-gi
+  qt6-base-private-dev clang-format-16
+)
 
 # To fuzz (the preset "fuzz").
 # shellcheck disable=SC2034
