@@ -3,8 +3,8 @@
 
   /usr/bin/python3 browser/make_site.py COMPILED FOLDER
 
-COMPILED holds clinorama.js and clinorama.wasm. The folder is made anew. The fonts
-come from Debian's packages.
+COMPILED is the folder of the preset "wasm", when it has been built. The folder is made anew. The
+fonts come from Debian's packages.
 """
 import hashlib
 import json
@@ -41,11 +41,11 @@ def make_fonts(folder):
                 "--layout-features=kern,liga", "--drop-tables+=FFTM")
 
 
-def copy_pictures(folder):
+def copy_pictures(source, folder):
     """Copies the pictures that pages name, and returns the words of those that show a text."""
     words = {}
-    for picture in sorted(resources.rglob("*.svg")):
-        name = picture.relative_to(resources)
+    for picture in sorted(source.rglob("*.svg")):
+        name = picture.relative_to(source)
         if name.is_relative_to("manual/graphs"):
             continue  # they are part of the manual's pages already
         (folder / name.parent).mkdir(parents=True, exist_ok=True)
@@ -78,9 +78,10 @@ def main():
         if path.name not in ("jsconfig.json", "types.d.ts"):
             shutil.copyfile(path, folder / path.name)
     for name in ("clinorama.js", "clinorama.wasm"):
-        shutil.copyfile(compiled / name, folder / name)
+        shutil.copyfile(compiled / "browser" / name, folder / name)
     make_fonts(folder / "fonts")
-    words = copy_pictures(folder / "resources")
+    words = copy_pictures(resources, folder / "resources")
+    words |= copy_pictures(compiled / "generated" / "resources", folder / "resources")
     (folder / "words.json").write_text(json.dumps(words, ensure_ascii=False), encoding="utf-8")
     for size in ICON_SIZES:
         run("rsvg-convert", "-w", size, "-h", size, resources / "icons" / "clinorama.svg",

@@ -158,4 +158,6 @@ void Announcer::Announce(const QString& text) {
   QAccessible::updateAccessibility(&event);
 }
 
+void Announcer::hideEvent(QHideEvent* /*event*/) { setAccessibleName(QString()); }
+
 }  // namespace clinorama::desktop

@@ -19,6 +19,10 @@ class Announcer : public QWidget {
  public:
   explicit Announcer(QWidget* parent);
   void Announce(const QString& text);
+
+ protected:
+  // A window that is shown again would be told its last announcement again.
+  void hideEvent(QHideEvent* event) override;
 };
 
 }  // namespace clinorama::desktop

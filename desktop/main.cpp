@@ -4,9 +4,11 @@
 #include <cstdlib>
 
 #include "desktop/look.h"
+#include "desktop/program.h"
 #include "desktop/qt_host.h"
 #include "forms/application.h"
 #include "shell/Form2.h"
+#include "shell/version.h"
 
 #ifdef __GLIBC__
 #include <malloc.h>
@@ -52,7 +54,8 @@ void GiveMemoryBack() {
 int main(int argc, char* argv[]) {
   GiveMemoryBack();
   qInstallMessageHandler(TellOfTheDisplay);
-  QApplication qt(argc, argv);
+  clinorama::desktop::Program qt(argc, argv);
+  QApplication::setApplicationVersion(QString::fromLatin1(clinorama::Version));
   clinorama::desktop::SetLook();
   if (!QFontMetrics(QApplication::font()).inFont('a')) {
     GiveUp("não há tipos de letra instalados. Instale, por exemplo, o pacote fonts-dejavu-core.");

@@ -23,7 +23,7 @@ namespace {
 // A window that the user drags to another screen settles when it has not moved for so long.
 constexpr int MillisecondsToFit = 300;
 
-// After a motion's last change its values are told, when it is really over.
+// So long after the last change the news are told.
 constexpr int MillisecondsToAnnounce = 100;
 
 // The widest frames that the window manager has given to pages so far.
@@ -37,10 +37,14 @@ QMargins FrameOfPages() {
   return frame;
 }
 
+bool HasWords(const QWidget& widget) { return widget.property(WordsProperty).isValid(); }
+
 }  // namespace
 
 PageWindow::PageWindow(forms::Page& page, QScreen& screen)
-    : page_(&page), client_(new QWidget(this)) {
+    : page_(&page),
+      client_(new QWidget(this)),
+      keyboard_(*this, *client_, [this](const QWidget& widget) { return InPlaceOf(widget); }) {
   setObjectName(TextFor(page.Name()));
   setScreen(&screen);
   announcer_ = new Announcer(this);
@@ -52,7 +56,7 @@ PageWindow::PageWindow(forms::Page& page, QScreen& screen)
   SynchronisePage();
   announcing_.setSingleShot(true);
   announcing_.setInterval(MillisecondsToAnnounce);
-  announcing_.callOnTimeout([this] { AnnounceValues(); });
+  announcing_.callOnTimeout([this] { AnnounceNews(); });
   fitting_.setSingleShot(true);
   fitting_.setInterval(MillisecondsToFit);
   fitting_.callOnTimeout([this] { FitOnce(*this->screen()); });
@@ -74,7 +78,7 @@ Fit PageWindow::FitTo(const QScreen& screen) {
 
 void PageWindow::FitOnce(const QScreen& screen) {
   const Fit fit = FitTo(screen);
-  if (fit.Zoom == zoom_) {
+  if (fit.Zoom == zoom_ && &screen == this->screen()) {
     return;
   }
   zoom_ = fit.Zoom;
@@ -119,56 +123,48 @@ void PageWindow::Synchronise(forms::Control& control) {
     return;
   }
   const QWidget& widget = *found->second.Widget;
-  const bool wasVisible = widget.isVisible();
   if (!control.Visible || !control.Enabled) {
-    ParkKeyboard(widget);
+    keyboard_.Leave(widget);
   }
   SynchroniseView(control, found->second, zoom_);
-  TakeKeyboardBack();
-  if (widget.isVisible() && !wasVisible && widget.property(WordsProperty).isValid()) {
-    announcer_->Announce(widget.property(WordsProperty).toString());
-  }
+  keyboard_.ComeBack();
   if (const forms::Label* value = AsValue(control)) {
     values_.insert(value);
   }
-  if (!values_.empty()) {
+  if (!values_.empty() || HasWords(widget)) {
     announcing_.start();
   }
 }
 
-// A motion that runs, or that pauses, changes something again before it ends.
-void PageWindow::AnnounceValues() {
-  if (!forms::Application::Current().AtRest()) {
-    return;
-  }
-  for (const forms::Label* value : std::exchange(values_, {})) {
-    if (!value->Caption().empty()) {
-      announcer_->Announce(TextFor(value->SpokenName()));
+std::set<const QWidget*> PageWindow::TextsInView() const {
+  std::set<const QWidget*> texts;
+  for (const auto& [control, view] : views_) {
+    if (HasWords(*view.Widget) && view.Widget->isVisible()) {
+      texts.insert(view.Widget);
     }
   }
+  return texts;
 }
 
-// The toolkit would give the keyboard to the next control, whatever that does. It stays on the
-// empty ground of the page instead, until its control is free again.
-void PageWindow::ParkKeyboard(const QWidget& widget) {
-  QWidget* focus = focusWidget();
-  if (focus != nullptr && (focus == &widget || widget.isAncestorOf(focus))) {
-    parkedAt_ = focus;
-    client_->setFocus();
+// All in one, as an announcement is lost when another follows at once. The values of a motion that
+// runs, or that pauses, change again before it ends.
+void PageWindow::AnnounceNews() {
+  QStringList news;
+  const std::set<const QWidget*> before = std::exchange(texts_, TextsInView());
+  for (const QWidget* text : texts_) {
+    if (before.count(text) == 0) {
+      news << text->property(WordsProperty).toString();
+    }
   }
-}
-
-void PageWindow::TakeKeyboardBack() {
-  if (focusWidget() != client_ || parkedAt_ == nullptr) {
-    return;
+  if (forms::Application::Current().AtRest()) {
+    for (const forms::Label* value : std::exchange(values_, {})) {
+      if (!value->Caption().empty()) {
+        news << TextFor(value->SpokenName());
+      }
+    }
   }
-  const auto free = [this](const QWidget* widget) {
-    return widget != nullptr && widget->isEnabledTo(this) && widget->isVisibleTo(this);
-  };
-  if (free(parkedAt_)) {
-    parkedAt_->setFocus();
-  } else if (QWidget* other = InPlaceOf(*parkedAt_); free(other)) {
-    other->setFocus();
+  if (!news.isEmpty()) {
+    announcer_->Announce(news.join('\n'));
   }
 }
 
@@ -177,9 +173,9 @@ QWidget* PageWindow::InPlaceOf(const QWidget& widget) const {
   if (const auto* button = dynamic_cast<const forms::CommandButton*>(ControlOf(widget))) {
     return button->Twin == nullptr ? nullptr : WidgetOf(*button->Twin);
   }
-  if (widget.property(WordsProperty).isValid()) {
+  if (HasWords(widget)) {
     for (const auto& [control, view] : views_) {
-      if (view.Widget->property(WordsProperty).isValid() && view.Widget->isVisibleTo(this)) {
+      if (HasWords(*view.Widget) && view.Widget->isVisibleTo(this)) {
         return view.Widget;
       }
     }
@@ -187,18 +183,8 @@ QWidget* PageWindow::InPlaceOf(const QWidget& widget) const {
   return nullptr;
 }
 
-// From the empty ground the tabulator goes on where the keyboard was.
 bool PageWindow::focusNextPrevChild(bool next) {
-  if (focusWidget() != client_ || parkedAt_ == nullptr) {
-    return QWidget::focusNextPrevChild(next);
-  }
-  QWidget* widget = parkedAt_;
-  do {
-    widget = next ? widget->nextInFocusChain() : widget->previousInFocusChain();
-  } while (widget != parkedAt_ && !((widget->focusPolicy() & Qt::TabFocus) != 0 &&
-                                    widget->isEnabledTo(this) && widget->isVisibleTo(this)));
-  widget->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
-  return true;
+  return keyboard_.GoOn(next) || QWidget::focusNextPrevChild(next);
 }
 
 void PageWindow::AddKeys() {
@@ -280,6 +266,7 @@ void PageWindow::showEvent(QShowEvent* /*event*/) {
   QObject::connect(windowHandle(), &QWindow::screenChanged, this, &PageWindow::WatchTheScreen,
                    Qt::UniqueConnection);
   WatchTheScreen();
+  texts_ = TextsInView();  // a reader finds them by itself now
 }
 
 void PageWindow::moveEvent(QMoveEvent* /*event*/) {

@@ -6,6 +6,7 @@
 #include <set>
 
 #include "desktop/fit.h"
+#include "desktop/keyboard.h"
 #include "desktop/views.h"
 
 class QScreen;
@@ -29,7 +30,7 @@ class PageWindow : public QWidget {
 
   // How pages fit a screen beside the frames that the window manager gives them.
   static Fit FitTo(const QScreen& screen);
-  // Takes the size and the place for a screen, unless the window was made for such a one.
+  // Takes the size and the place for a screen, unless the window is there already in this size.
   void FitOnce(const QScreen& screen);
 
   // Shows what a control (or the page itself) now says.
@@ -59,18 +60,18 @@ class PageWindow : public QWidget {
   void AddControls(forms::Control& container, QWidget& parent);
   void SynchronisePage();
   QWidget* WidgetOf(forms::Control& control) const;
-  void ParkKeyboard(const QWidget& widget);
-  void TakeKeyboardBack();
   QWidget* InPlaceOf(const QWidget& widget) const;
-  void AnnounceValues();
+  std::set<const QWidget*> TextsInView() const;
+  void AnnounceNews();
 
   forms::Page* page_;
   double zoom_ = 0;  // none yet
   MenuBar* bar_ = nullptr;
   QWidget* client_;
+  Keyboard keyboard_;
   Announcer* announcer_;
-  QWidget* parkedAt_ = nullptr;           // had the keyboard when it was locked or hidden
   std::set<const forms::Label*> values_;  // to be announced
+  std::set<const QWidget*> texts_;        // in view, and announced
   QTimer announcing_;
   QTimer fitting_;
   std::map<forms::Control*, View> views_;

@@ -79,7 +79,7 @@ void QtHost::Shown(forms::Page& page) {
   if (window == nullptr) {
     window = std::make_unique<PageWindow>(page, Here());
   } else if (!window->isVisible()) {
-    window->FitOnce(*window->screen());
+    window->FitOnce(Here());
   }
   QToolTip::setFont(window->font());
   QToolTip::setPalette(window->palette());

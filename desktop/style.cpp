@@ -4,6 +4,7 @@
 #include <QStyleFactory>
 #include <QStyleOption>
 #include <QWidget>
+#include <algorithm>
 
 #include "desktop/look.h"
 #include "desktop/menu_bar.h"
@@ -128,7 +129,16 @@ int Style::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* 
 QSize Style::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
                               const QWidget* widget) const {
   const QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
-  return type == CT_MenuBarItem ? contents + (size - contents) * ZoomFor(widget) : size;
+  switch (type) {
+    case CT_MenuBarItem:
+      return contents + (size - contents) * ZoomFor(widget);
+    case CT_MenuItem:
+      // Before the text the toolkit leaves room for a mark that grows with the text's height, and
+      // does not count it.
+      return size + QSize(qRound(21 * (std::max(1.0, ZoomFor(widget)) - 1)), 0);
+    default:
+      return size;
+  }
 }
 
 QPixmap Style::generatedIconPixmap(QIcon::Mode mode, const QPixmap& pixmap,

@@ -140,7 +140,16 @@ class ImageWidget : public QWidget {
   }
 
  protected:
-  void paintEvent(QPaintEvent* /*event*/) override { QPainter(this).drawPixmap(corner_, picture_); }
+  void paintEvent(QPaintEvent* /*event*/) override {
+    QStylePainter painter(this);
+    painter.drawPixmap(corner_, picture_);
+    QStyleOptionFocusRect option;
+    option.initFrom(this);
+    if (option.state.testFlag(QStyle::State_HasFocus) &&
+        option.state.testFlag(QStyle::State_KeyboardFocusChange)) {
+      painter.drawPrimitive(QStyle::PE_FrameFocusRect, option);
+    }
+  }
 
  private:
   const forms::Image& image_;

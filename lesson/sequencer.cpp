@@ -6,7 +6,7 @@
 #include "base/number_text.h"
 #include "forms/application.h"
 #include "lesson/Form9.h"
-#include "shell/manual_menu.h"
+#include "shell/viewers.h"
 #include "workpage/Form12.h"
 
 namespace clinorama {

@@ -8,7 +8,7 @@ take_turn() {
   mkdir -p build
   exec {build_lock}>build/.lock
   if ! flock --nonblock "$build_lock"; then
-    echo "Another scripts/run, scripts/test, scripts/soak or scripts/browser is building here: waiting for it." >&2
+    echo "Another scripts/run, test, soak, package or browser is building here: waiting for it." >&2
     flock "$build_lock"
   fi
 }
@@ -36,7 +36,7 @@ configure() {
 build_browser() {
   configure wasm --log-level=WARNING "$@"
   cmake --build --preset wasm --target clinorama
-  /usr/bin/python3 browser/make_site.py build/wasm/browser build/browser
+  /usr/bin/python3 browser/make_site.py build/wasm build/browser
 }
 
 build_fuzzer() {

@@ -20,10 +20,13 @@ display_packages=(xvfb openbox xauth x11-utils)
 # shellcheck disable=SC2034
 viewing_packages=(x11vnc)
 
-# To test: the smoke test drives a real window, a random user fills the toolkit's own queue of events,
-# and the layout of the code is checked.
+# To test: real windows are driven by keys and on an accessibility bus, a random user fills the
+# toolkit's own queue of events, and the layout of the code is checked.
 # shellcheck disable=SC2034
-test_packages=(xdotool imagemagick clang-format-16 qt6-base-private-dev)
+test_packages=(
+  xdotool imagemagick at-spi2-core dbus-daemon gir1.2-atspi-2.0 python3-gi
+  qt6-base-private-dev clang-format-16
+)
 
 # To fuzz (the preset "fuzz").
 # shellcheck disable=SC2034
@@ -49,6 +52,10 @@ page_packages=(fonts-crosextra-carlito fonts-oflb-asana-math fonts-comic-neue)
 # To examine the code by hand (scripts/lint).
 # shellcheck disable=SC2034
 lint_packages=(clang-tidy)
+
+# To make packages (scripts/package): the icons, the dependencies, and the checks of what was made.
+# shellcheck disable=SC2034
+package_packages=(librsvg2-bin dpkg-dev file appstream desktop-file-utils lintian man-db)
 
 # Installs those of the packages named in the arguments that are missing, without asking questions.
 # Says nothing and needs no network when there is nothing to install. Fails when it may not install.

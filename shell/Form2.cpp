@@ -3,7 +3,6 @@
 #include "base/Module1.h"
 #include "forms/application.h"
 #include "lesson/Form9.h"
-#include "shell/manual_menu.h"
 #include "shell/viewers.h"
 #include "workpage/Form12.h"
 

@@ -1,7 +1,10 @@
 #pragma once
 
+#include <string>
+
 #include "forms/controls.h"
 #include "forms/page.h"
+#include "shell/version.h"
 
 namespace clinorama {
 
@@ -26,7 +29,7 @@ class Form2 : public forms::Page {
                       "Image8",
                       {570, 8850, 3900, 660},
                       "pictures/versao",
-                      "Versão 1.0. Resolução 1024x768."};
+                      std::string("Versão ") + Version + ". Resolução 1024x768."};
   forms::Image Image7{*this,
                       "Image7",
                       {8370, 9000, 6300, 360},

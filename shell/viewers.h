@@ -1,9 +1,10 @@
 #pragma once
 
 #include "base/Module1.h"
+#include "forms/controls.h"
 #include "shell/viewer.h"
 
-// The four viewers of the manual.
+// The four viewers of the manual, and the menu that opens them.
 namespace clinorama {
 
 // clang-format off
@@ -42,5 +43,9 @@ class Form11 : public PageViewer {
   Form11() : PageViewer(CommentsViewer) {}
   void UserClose() override { CloseAndRenew<Form11>(); }
 };
+
+// Binds the four menu items of the manual, which several pages have, to its viewers.
+void BindManualMenu(forms::Menu& instructions, forms::Menu& comments, forms::Menu& syntax,
+                    forms::Menu& functions);
 
 }  // namespace clinorama

@@ -29,6 +29,7 @@
 #include <vector>
 
 #include "engine/clsEquation.h"
+#include "tools/file.h"
 #include "tools/graph.h"
 #include "tools/picture.h"
 
@@ -136,23 +137,6 @@ Graph GraphFrom(const std::string& line) {
   }
   CheckUnits(graph);
   return graph;
-}
-
-// A picture that has not changed keeps its date, so that nothing is built anew because of it.
-void WriteIfNew(const std::filesystem::path& file, const std::string& text) {
-  std::ostringstream before;
-  before << std::ifstream(file, std::ios::binary).rdbuf();
-  if (before.str() == text) {
-    return;
-  }
-  if (file.has_parent_path()) {
-    std::filesystem::create_directories(file.parent_path());
-  }
-  std::ofstream out(file, std::ios::binary);
-  out << text;
-  if (!out.flush()) {
-    throw std::runtime_error("cannot write " + file.string());
-  }
 }
 
 // Returns how many lines could not be drawn.

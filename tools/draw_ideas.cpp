@@ -10,15 +10,13 @@
 #include <cmath>
 #include <exception>
 #include <filesystem>
-#include <fstream>
 #include <iostream>
-#include <sstream>
-#include <stdexcept>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "relations/Form13.h"
+#include "tools/file.h"
 #include "tools/recording.h"
 #include "tools/sheet.h"
 #include "workpage/Form12.h"
@@ -37,27 +35,12 @@ constexpr forms::Color Green = forms::QBColor(10);
 
 std::filesystem::path resources;
 
-// A picture that has not changed keeps its date, so that nothing is built anew because of it.
-void WriteIfNew(const std::string& name, const std::string& text) {
-  const std::filesystem::path file = resources / name;
-  std::ostringstream before;
-  before << std::ifstream(file, std::ios::binary).rdbuf();
-  if (before.str() == text) {
-    return;
-  }
-  std::ofstream out(file, std::ios::binary);
-  out << text;
-  if (!out.flush()) {
-    throw std::runtime_error("cannot write " + file.string());
-  }
-}
-
 void WriteValues(const std::string& name, const std::vector<std::string>& values) {
   std::string text;
   for (const std::string& value : values) {
     text += (text.empty() ? "[" : ", ") + ("\"" + value + "\"");
   }
-  WriteIfNew(name, text + "]\n");
+  WriteIfNew(resources / name, text + "]\n");
 }
 
 double ValueOf(const std::string& expression, double x) {
@@ -122,7 +105,7 @@ void DrawSemiSecants(Studio& studio) {
       });
   strip.Add(recording.Now(), {PointA}, {{fixed, Green}});
   values.push_back(page.Label3.Caption());
-  WriteIfNew("manual/graphs/ideia_semi_secantes.svg", strip.Text());
+  WriteIfNew(resources / "manual/graphs/ideia_semi_secantes.svg", strip.Text());
   WriteValues("manual/graphs/ideia_semi_secantes.json", values);
 }
 
@@ -149,7 +132,7 @@ void DrawTangents(Studio& studio) {
         strip.Add(recording.Now(), {x}, {{{x, ValueOf(function, x)}, forms::Red}});
         values.push_back(page.Label6.Caption());
       });
-  WriteIfNew("manual/graphs/ideia_tangentes.svg", strip.Text());
+  WriteIfNew(resources / "manual/graphs/ideia_tangentes.svg", strip.Text());
   WriteValues("manual/graphs/ideia_tangentes.json", values);
 }
 
@@ -226,7 +209,7 @@ void DrawStack(const Stack& stack) {
     sheet.DrawNumbers(panels[i], traces, numbers);
     sheet.Draw(panels[i], traces, CurveWidth);
   }
-  WriteIfNew(std::string("manual/graphs/") + stack.File, sheet.Text());
+  WriteIfNew(resources / "manual/graphs" / stack.File, sheet.Text());
 }
 
 constexpr const char* Initial = "x*(1-cos(x))/2";
@@ -324,14 +307,14 @@ void DrawExample(const Example& example, int number) {
   large.DrawPlane(plane);
   large.DrawNumbers(plane, function.Now(), {-6, -4, -2, 2, 4, 6});
   large.Draw(plane, function.Now(), CurveWidth);
-  WriteIfNew(name + ".svg", large.Text());
+  WriteIfNew(resources / (name + ".svg"), large.Text());
 
   const auto drawSmall = [&](const Recording& recording, const Interval& y, const char* suffix) {
     Sheet small(Small, Small);
     const Panel panel = {0, 0, Small, Small, example.X, y};
     small.DrawPlane(panel, 2);
     small.Draw(panel, recording.Now(), SmallCurveWidth);
-    WriteIfNew(name + suffix, small.Text());
+    WriteIfNew(resources / (name + suffix), small.Text());
   };
   drawSmall(first, example.First, "_primeira.svg");
   drawSmall(second, example.Second, "_segunda.svg");

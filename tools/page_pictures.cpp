@@ -1,6 +1,7 @@
-// Takes pictures of the program's own pages for the manual and the README:
+// Takes pictures of the program's own pages:
 //
-//   page_pictures FOLDER
+//   page_pictures manual FOLDER    parts of pages, for the manual
+//   page_pictures screen FOLDER    whole pages as they look on a screen, for the README
 //
 // Each state is brought about by the page's own buttons, so that the pictures can be made anew
 // whenever a page changes. No display is needed.
@@ -13,8 +14,11 @@
 #include <QPixmap>
 #include <QTemporaryFile>
 #include <QWidget>
+#include <algorithm>
 #include <cstdio>
+#include <cstdlib>
 #include <functional>
+#include <iterator>
 #include <memory>
 #include <string>
 #include <vector>
@@ -27,6 +31,7 @@
 #include "relations/Form13.h"
 #include "shell/Form2.h"
 #include "shell/Form5.h"
+#include "shell/viewers.h"
 #include "tools/recording.h"
 #include "workpage/Form12.h"
 
@@ -38,7 +43,7 @@ using tools::Opened;
 using tools::Recording;
 using tools::Trace;
 
-// Device pixels to a logical pixel of the pages, so that their texts stay sharp.
+// Device pixels to a logical pixel of the manual's pictures, so that their texts stay sharp.
 constexpr int Density = 2;
 // And pixels of a picture to one of the manual's page that holds it.
 constexpr int Sharpness = 2;
@@ -183,13 +188,44 @@ QRect PageOf(const forms::Page& page) {
   return {0, menu, window->width(), window->height() - menu};
 }
 
+// A whole page with its menu, as it looks on the screen.
+void TakeWhole(const forms::Page& page, const char* name) {
+  QWidget* window = WindowOf(page);
+  if (window == nullptr) {
+    Fail(name);
+  }
+  Save(window->grab().toImage(), name);
+}
+
+void DrawSemiTangents(Form12& page) {
+  page.DesenharGráfico.UserClick();
+  page.DerivadaEsquerda.UserClick();
+  page.DerivadaDireita.UserClick();
+}
+
+void DrawAll(Form13& page) {
+  page.Função1.UserType("x*(1-cos(x))/2");  // as it comes from the work page
+  page.DesenharGráfico.UserClick();
+  page.DesenharPrimeira.UserClick();
+  page.DesenharSegunda.UserClick();
+}
+
+// Turns the lesson's pages to that of the turning semi-secant, and takes the picture while it
+// turns.
+void TakeTurningSemiSecant(Camera& camera, Form9& page, const std::function<void()>& take) {
+  constexpr int PageOfTheTurningSemiSecant = 8;
+  for (int number = 1; number < PageOfTheTurningSemiSecant; ++number) {
+    page.Seguinte.UserClick();
+  }
+  camera.TakeInMotion(
+      150, [&page] { page.Seguinte.UserClick(); }, take);
+}
+
 void TakeWorkPage() {
   const Opened<Form12> opened;
   Form12& page = opened.Page();
   const Drawn canvas(page.Picture1);
-  page.DesenharGráfico.UserClick();
-  page.DerivadaEsquerda.UserClick();
-  page.DerivadaDireita.UserClick();
+  DrawSemiTangents(page);
   Take(page, "trabalho", PageOf(page), 390, {&canvas});
 }
 
@@ -202,13 +238,10 @@ void TakeRelations() {
                                                         {"relacao_botoes_segunda", "Frame5"}}) {
     TakeControl(page, name, control);
   }
-  page.Função1.UserType("x*(1-cos(x))/2");  // as it comes from the work page
   const Drawn function(page.Picture1(1));
   const Drawn first(page.Picture1(3));
   const Drawn second(page.Picture1(5));
-  page.DesenharGráfico.UserClick();
-  page.DesenharPrimeira.UserClick();
-  page.DesenharSegunda.UserClick();
+  DrawAll(page);
   Take(page, "relacao", PageOf(page), 366, {&function, &first, &second});
 }
 
@@ -217,16 +250,11 @@ void TakeLesson(Camera& camera) {
   Form9& page = opened.Page();
   TakeControl(page, "conceito_opcoes", "Opções");
   const Drawn drawing(page.Picture1);
-  constexpr int PageOfTheTurningSemiSecant = 8;
-  for (int number = 1; number < PageOfTheTurningSemiSecant; ++number) {
-    page.Seguinte.UserClick();
-  }
-  camera.TakeInMotion(
-      150, [&page] { page.Seguinte.UserClick(); },
-      [&] { Take(page, "conceito", PageOf(page), 400, {&drawing}); });
+  TakeTurningSemiSecant(camera, page,
+                        [&] { Take(page, "conceito", PageOf(page), 400, {&drawing}); });
 }
 
-void TakeAll(Camera& camera) {
+void TakeForManual(Camera& camera) {
   The<Form2>().Show();
   Take(The<Form2>(), "apresentacao", {0, 0, 720, 110}, 554);
   TakeWorkPage();
@@ -237,30 +265,75 @@ void TakeAll(Camera& camera) {
   Take(The<Form5>(), "exemplos", PageOf(The<Form5>()), 222);
 }
 
+void TakeScreen(Camera& camera) {
+  constexpr int PageOfThePlan = 4;  // of a lesson of 45 minutes
+  The<Form2>().Show();
+  TakeWhole(The<Form2>(), "apresentacao");
+  {
+    const Opened<Form12> opened;
+    DrawSemiTangents(opened.Page());
+    TakeWhole(opened.Page(), "trabalho");
+  }
+  {
+    const Opened<Form13> opened;
+    Form13& page = opened.Page();
+    DrawAll(page);
+    page.ColocarCoresFunção.UserClick();
+    page.ColocarCoresPrimeira1.UserClick();
+    page.ColocarCoresSegunda.UserClick();
+    TakeWhole(page, "relacao");
+  }
+  {
+    const Opened<Form11> opened;
+    for (int page = 1; page < PageOfThePlan; ++page) {
+      opened.Page().SetaD.UserClick();
+    }
+    TakeWhole(opened.Page(), "comentarios");
+  }
+  const Opened<Form9> opened;
+  TakeTurningSemiSecant(camera, opened.Page(), [&] { TakeWhole(opened.Page(), "conceito"); });
+}
+
+// What is taken, and on what screen.
+struct Occasion {
+  const char* Name;
+  QSize Screen;  // in device pixels
+  int Density;   // device pixels to one of the toolkit's
+  void (*Take)(Camera& camera);
+};
+const Occasion Occasions[] = {
+    // The screen that pages are laid out for, so that they are not zoomed.
+    {"manual", QSize(1024, 768) * Density, Density, TakeForManual},
+    {"screen", QSize(1920, 1080), 1, TakeScreen},
+};
+
 }  // namespace
 }  // namespace clinorama
 
 int main(int argc, char* argv[]) {
-  // The screen that pages are laid out for, so that they are not zoomed.
+  using clinorama::Occasions;
+  const auto* occasion = std::find_if(
+      std::begin(Occasions), std::end(Occasions),
+      [&](const auto& candidate) { return argc == 3 && std::string(candidate.Name) == argv[1]; });
+  if (occasion == std::end(Occasions)) {
+    std::fprintf(stderr, "usage: page_pictures manual|screen FOLDER\n");
+    return EXIT_FAILURE;
+  }
   QTemporaryFile screens;
   screens.open();
   screens.write(QStringLiteral(R"({"screens": [{"name": "", "x": 0, "y": 0,
       "width": %1, "height": %2, "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})")
-                    .arg(1024 * clinorama::Density)
-                    .arg(768 * clinorama::Density)
+                    .arg(occasion->Screen.width())
+                    .arg(occasion->Screen.height())
                     .toUtf8());
   screens.flush();
   qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + screens.fileName().toUtf8());
-  qputenv("QT_SCALE_FACTOR", QByteArray::number(clinorama::Density));
+  qputenv("QT_SCALE_FACTOR", QByteArray::number(occasion->Density));
   QApplication qt(argc, argv);
-  if (argc != 2) {
-    std::fprintf(stderr, "usage: page_pictures FOLDER\n");
-    return EXIT_FAILURE;
-  }
-  clinorama::folder = argv[1];
+  clinorama::folder = argv[2];
   clinorama::desktop::SetLook();
   clinorama::Camera camera;
   clinorama::forms::Application application(camera);
-  clinorama::TakeAll(camera);
+  occasion->Take(camera);
   return EXIT_SUCCESS;
 }

@@ -2,8 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstdlib>
-#include <stdexcept>
 
 namespace clinorama::tools {
 namespace {
@@ -92,17 +90,11 @@ void Recording::TakeLine(const forms::DrawingOperation& operation) {
   traces_.push_back(line);
 }
 
-void Studio::MsgBox(const std::string& text, int /*style*/, const std::string& title) {
-  throw std::runtime_error(title + ": " + text);
-}
-
 void Studio::Wait(int /*milliseconds*/) {
   ++step_;
   if (eachStep_) {
     eachStep_();
   }
 }
-
-void Studio::End() { std::exit(EXIT_FAILURE); }
 
 }  // namespace clinorama::tools

@@ -1,12 +1,11 @@
 #pragma once
 
 #include <functional>
-#include <optional>
 #include <string>
 #include <vector>
 
+#include "benchmarks/null_host.h"
 #include "forms/application.h"
-#include "forms/host.h"
 #include "forms/surface.h"
 #include "tools/graph.h"
 
@@ -62,9 +61,8 @@ class Recording {
   std::vector<Trace> passing_;  // the figure of a motion, which inverts white to black
 };
 
-// A machine without windows and without a clock, on which a picture can be taken in the middle of a
-// motion.
-class Studio : public forms::Host {
+// A machine without windows, on which a picture can be taken in the middle of a motion.
+class Studio : public benchmarks::NullHost {
  public:
   // Runs the motion that a click starts, and takes pictures in some of its steps, counted from 1.
   template <class Click, class TakePicture>
@@ -81,21 +79,7 @@ class Studio : public forms::Host {
     eachStep_ = nullptr;
   }
 
-  double Density() const override { return 1; }
-  void Shown(forms::Page& /*page*/) override {}
-  void Hidden(forms::Page& /*page*/) override {}
-  void Unloaded(forms::Page& /*page*/) override {}
-  void Changed(forms::Control& /*control*/) override {}
-  void Drawn(forms::PictureBox& /*picture*/) override {}
-  void Flush(forms::PictureBox& /*picture*/) override {}
-  void PaintText(forms::Raster& /*raster*/, const forms::TextRun& /*run*/) override {}
-  void SetFocus(forms::Control& /*control*/) override {}
-  // A box says that something went wrong: nothing here is to raise one.
-  void MsgBox(const std::string& text, int style, const std::string& title) override;
-  std::optional<forms::Color> ShowColor(forms::Color /*now*/) override { return {}; }
   void Wait(int milliseconds) override;
-  void WaitForEvents() override {}
-  [[noreturn]] void End() override;
 
  private:
   int step_ = 0;

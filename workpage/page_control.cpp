@@ -9,7 +9,7 @@
 #include "lesson/Form9.h"
 #include "relations/Form13.h"
 #include "shell/Form5.h"
-#include "shell/manual_menu.h"
+#include "shell/viewers.h"
 #include "workpage/Form12.h"
 
 namespace clinorama {

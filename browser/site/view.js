@@ -8,6 +8,9 @@ import { Screen } from "./screen.js";
 
 /** @typedef {import("./controls.js").ControlView} ControlView */
 
+// News are told together: one is lost when another follows at once.
+const MillisecondsToAnnounce = 100;
+
 export class View {
   queue = new Queue();
   /** From the lowest to the highest. @type {PageView[]} */
@@ -16,6 +19,8 @@ export class View {
   #active;
   /** Those of values, to be announced. @type {Set<ControlView>} */
   #values = new Set();
+  /** What is told next. @type {string[]} */
+  #news = [];
   #stage = /** @type {HTMLElement} */ (document.getElementById("stage"));
   screen = new Screen(this.#stage);
   #ended = false;
@@ -155,7 +160,7 @@ export class View {
       if (state.kind === "page") {
         this.#page(state.number)?.showPage(/** @type {PageState} */ (state));
       } else if (control !== undefined) {
-        if (/** @type {LabelState} */ (state).bordered) {
+        if (/** @type {LabelState} */ (state).bordered && isOtherText(control.state, state)) {
           this.#values.add(control);
         }
         this.#pages.forEach((page) => page.show(state));
@@ -197,21 +202,22 @@ export class View {
 
   // What nobody has asked for.
 
-  /** @param {string} words */
-  announce(words) {
-    this.#announcer.textContent = words;
+  /** @param {string[]} words */
+  announce(...words) {
+    if (words.length > 0 && this.#news.length === 0) {
+      setTimeout(() => {
+        this.#announcer.textContent = this.#news.join("\n");
+        this.#news = [];
+      }, MillisecondsToAnnounce);
+    }
+    this.#news.push(...words);
   }
 
   /** No handler is on the stack: the values of a motion have come to their end. */
   atRest() {
-    const spoken = [...this.#values]
-      .map(({ state }) => /** @type {LabelState} */ (state))
-      .filter(({ text }) => text !== "")
-      .map((state) => state.spoken);
+    const values = [...this.#values].map(({ state }) => /** @type {LabelState} */ (state));
     this.#values.clear();
-    if (spoken.length > 0) {
-      this.announce(spoken.join("; "));
-    }
+    this.announce(...values.filter(({ text }) => text !== "").map(({ spoken }) => spoken));
   }
 
   // Boxes.
@@ -238,4 +244,9 @@ export class View {
     }
     return new Promise(() => {});
   }
+}
+
+/** @param {State} before @param {State} now */
+function isOtherText(before, now) {
+  return /** @type {LabelState} */ (before).text !== /** @type {LabelState} */ (now).text;
 }

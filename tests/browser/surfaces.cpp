@@ -4,9 +4,10 @@
 #include <fstream>
 #include <string>
 
+#include "benchmarks/null_host.h"
+#include "forms/application.h"
 #include "forms/picture_box.h"
 #include "relations/Form13.h"
-#include "tests/support/scripted_host.h"
 #include "workpage/Form12.h"
 
 namespace clinorama::tests {
@@ -26,7 +27,7 @@ void Write(const std::string& file, const forms::Raster& raster) {
 }
 
 void WriteAll(const std::string& folder) {
-  ScriptedHost host;
+  benchmarks::NullHost host;
   forms::Application application(host);
   auto& work = The<Form12>();
   work.Show();

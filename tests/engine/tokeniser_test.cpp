@@ -1,6 +1,7 @@
 #include "engine/tokeniser.h"
 
 #include <string>
+#include <tuple>
 #include <utility>
 
 #include "base/failure.h"
@@ -47,11 +48,7 @@ TEST(Tokeniser, TakesTextsApartAndOrdersTheVisits) {
 
 TEST(Tokeniser, RejectsOnlyAWrongCountAndWhatItsCountersCannotHold) {
   const auto nested = [](int depth) { return Repeated("(", depth) + "1" + Repeated(")", depth); };
-  const struct {
-    const char* Name;
-    std::string Text;
-    int Failure;
-  } rows[] = {
+  const std::tuple<const char*, std::string, int> rows[] = {
       {"open", "(x", base::WrongParentheses},
       {"close", "x)", base::WrongParentheses},
       {"longest text of skipped characters, which have several bytes", Repeated("é", 32767), 0},
@@ -63,8 +60,8 @@ TEST(Tokeniser, RejectsOnlyAWrongCountAndWhatItsCountersCannotHold) {
       {"deepest below", Repeated(")", 4681) + Repeated("(", 4681), 0},
       {"too deep below", Repeated(")", 4682) + Repeated("(", 4682), base::Overflow},
   };
-  for (const auto& row : rows) {
-    EXPECT_EQ(FailureOf([&] { Interpreted(row.Text); }), row.Failure) << row.Name;
+  for (const auto& [name, text, failure] : rows) {
+    EXPECT_EQ(FailureOf([&, &of = text] { Interpreted(of); }), failure) << name;
   }
 }
 

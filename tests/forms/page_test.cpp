@@ -5,6 +5,7 @@
 #include <functional>
 #include <stdexcept>
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include "base/failure.h"
@@ -87,40 +88,37 @@ TEST_F(Pages, UnwindTheirHandlersWhenClosedWhileThoseWait) {
     const Leaving leaving{log, "third left"};
     page.Wait(5);
     page.UserClose();
-    page.Wait(5);
+    The<SamplePage>().Show();  // another one, which nobody waits for
+    page.WaitFor(false);
     log.push_back("third went on");
   };
+  The<OtherPage>().Show();
+  host.AtStep(2, [] { The<OtherPage>().UserClose(); });
   host.AtStep(3, [&] { page.Command2.UserClick(); });
   host.AtStep(5, [&] { page.Sair.UserClick(); });
   Play();
   EXPECT_EQ(log, (Log{"third left", "second left", "first left"}));
-  EXPECT_EQ(host.Steps, 7);
-  EXPECT_EQ(host.WaitedMilliseconds, 35);
-  EXPECT_EQ(SamplePage::Alive, 0);
-}
-
-TEST_F(Pages, GoOnWhenAnotherPageIsClosedButNotWhenTheirOwnIsOpenedAnew) {
-  The<OtherPage>().Show();
-  host.AtStep(2, [] { The<OtherPage>().UserClose(); });
-  host.AtStep(12, [] {
-    The<SamplePage>().UserClose();
-    The<SamplePage>().Show();
-  });
-  Play();
-  EXPECT_EQ(log, (Log{"first finished", "first left"}));
-  Play();
-  EXPECT_EQ(log, (Log{"first finished", "first left", "first left"}));
-  EXPECT_EQ(host.Steps, 12);
+  EXPECT_EQ(host.WaitedMilliseconds, 6 * 5);
+  EXPECT_EQ(SamplePage::Alive, 1);
   EXPECT_TRUE(The<SamplePage>().Visible);
 }
 
-TEST_F(Pages, ShowAFailureThatAHandlerLetsOutAndEndThatHandlerOnly) {
-  The<SamplePage>().Command2.Click = [] { base::Raise(base::TypeMismatch); };
-  host.AtStep(2, [] { The<SamplePage>().Command2.UserClick(); });
-  Play();
+TEST_F(Pages, ShowAFailureThatAHandlerLetsOutAndNoOtherException) {
+  auto& page = The<SamplePage>();
+  page.OptionA.Click = [] { base::Raise(base::TypeMismatch); };
+  page.OptionB.Click = [] {
+    base::Ignorar([] { base::Raise(base::Overflow); });
+    base::Ignorar([] { throw std::out_of_range("an error of the program"); });
+  };
+  page.Sair.Click = [] { forms::End(); };
+  host.AtStep(2, [&] { page.OptionA.UserClick(); });
+  host.AtStep(3, [&] { page.Command2.UserClick(); });
+  host.AtStep(5, [&] { page.Sair.UserClick(); });
+  EXPECT_THROW(Play(), ProgramEnded);
+  EXPECT_EQ(log, (Log{"second left", "first left"}));
+  EXPECT_THROW(page.OptionB.UserClick(), std::out_of_range);
   const MessageBox box{base::Failure(base::TypeMismatch).Description(), 0, "Clinorama"};
   EXPECT_EQ(host.MessageBoxes, std::vector{box});
-  EXPECT_EQ(log, (Log{"first finished", "first left"}));
 }
 
 TEST_F(Pages, HoldTheirMotionsWhileASpeedBarIsHeld) {
@@ -138,53 +136,27 @@ TEST_F(Pages, HoldTheirMotionsWhileASpeedBarIsHeld) {
 }
 
 TEST_F(Pages, IgnoreClicksWhereHandlersAreNestedTooDeeply) {
-  host.Depth = 5;
+  host.Depth = 2;
   auto& page = The<SamplePage>();
-  bool resumed = false;
-  page.Command2.Click = [&] {
-    if (page.CanPause()) {
-      page.WaitFor(resumed);
-    }
-    log.push_back("second left");
+  page.Show();
+  const auto tell = [&] { log.emplace_back(page.CanPause() ? "room" : "the greatest depth"); };
+  page.Label1.Click = tell, page.Label1.DblClick = tell;
+  page.Sair.Click = [&] {
+    tell();
+    page.Label1.UserClick(), page.Label1.UserDoubleClick();
+    page.Command1.UserClick(), page.OptionB.UserClick(), page.Sair.UserClick();
   };
-  page.OptionA.Click = [&] { page.Command1.UserClick(); };
-  host.AtStep(1, [&] { page.OptionA.UserClick(); });
-  host.AtStep(2, [&] { page.Command2.UserClick(); });
-  host.AtStep(3, [&] { page.Command2.UserClick(), page.Sair.UserClick(), resumed = true; });
-  page.Sair.Click = [&] { log.push_back("at the greatest depth"); };
-  Play();
-  EXPECT_EQ(log, (Log{"second left", "at the greatest depth", "second left", "first finished",
-                      "first left", "first finished", "first left"}));
-  host.Depth = 0;
-  page.OptionB.UserClick(), page.Command1.UserClick(), page.Sair.UserClick();
+  page.Command2.Click = [&] { tell(), page.Sair.UserClick(); };
+  page.Command2.UserClick();
+  EXPECT_EQ(log, (Log{"room", "the greatest depth"}));
   EXPECT_FALSE(page.OptionB.Value);
-  EXPECT_EQ(log.size(), 7U);
-}
-
-TEST_F(Pages, LetTheEndAndAnErrorOfTheProgramThrough) {
-  auto& page = The<SamplePage>();
-  page.Sair.Click = [] { forms::End(); };
-  page.OptionA.Click = [] {
-    base::Ignorar([] { base::Raise(base::Overflow); });
-    base::Ignorar([] { throw std::out_of_range("an error of the program"); });
-  };
-  host.AtStep(2, [&] { page.Command2.UserClick(); });
-  host.AtStep(4, [&] { page.Sair.UserClick(); });
-  EXPECT_THROW(Play(), ProgramEnded);
-  EXPECT_EQ(log, (Log{"second left", "first left"}));
-  EXPECT_THROW(page.OptionA.UserClick(), std::out_of_range);
-  EXPECT_TRUE(host.MessageBoxes.empty());
 }
 
 TEST_F(Pages, AreActivatedWhenTheyBecomeTheActivePage) {
   auto& page = The<SamplePage>();
   auto& other = The<OtherPage>();
-  struct Step {
-    const char* What;
-    std::function<void()> Act;
-    int Activations;  // of the page, by this step
-  };
-  const Step steps[] = {
+  // What happens, and the activations of the page by it.
+  const std::tuple<const char*, std::function<void()>, int> steps[] = {
       {"shown", [&] { page.Show(); }, 1},
       {"shown when active", [&] { page.Show(), application.BecameActive(page); }, 0},
       {"a message box over it", [] { forms::MsgBox("Erro"); }, 0},
@@ -199,10 +171,10 @@ TEST_F(Pages, AreActivatedWhenTheyBecomeTheActivePage) {
       {"another page closed over it", [&] { other.Show(), other.UserClose(); }, 0},
       {"in front again", [&] { application.BecameActive(page); }, 1},
   };
-  for (const Step& step : steps) {
-    const int before = page.Activations;
-    step.Act();
-    EXPECT_EQ(page.Activations - before, step.Activations) << step.What;
+  for (const auto& [what, act, activations] : steps) {
+    page.Activations = 0;
+    act();
+    EXPECT_EQ(page.Activations, activations) << what;
   }
 }
 

@@ -13,9 +13,7 @@ class SamplePage : public forms::Page {
   SamplePage() : Page("SamplePage", {0, 0, 9000, 6000}, "Exemplo") { ++Alive; }
   ~SamplePage() override { --Alive; }
 
-  using Page::CanPause;
-  using Page::Wait;
-  using Page::WaitFor;
+  using Page::CanPause, Page::Wait, Page::WaitFor;
   void Form_Activate() override { ++Activations; }
 
   static inline int Alive = 0;

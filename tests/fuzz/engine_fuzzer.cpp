@@ -34,9 +34,8 @@ std::string Text(FuzzedDataProvider& input) {
 }
 
 double Number(FuzzedDataProvider& input) {
-  constexpr double Special[] = {-0.0, 1e-6, 1e200, HUGE_VAL};
   const int kind = input.ConsumeIntegralInRange(0, 2);
-  return kind == 0   ? input.PickValueInArray(Special)
+  return kind == 0   ? input.PickValueInArray({-0.0, 1e-6, 1e200, HUGE_VAL})
          : kind == 1 ? input.ConsumeIntegral<std::int16_t>() / 1000.0
                      : input.ConsumeFloatingPoint<double>();
 }

@@ -1,44 +1,55 @@
-// The pages one by one: buttons, markers and drawings. The lesson is walked through once, as its
-// motions are long.
+// The lesson: its pages one by one, with their buttons, markers and drawings; then the ways through
+// it, pauses, and other pages called into a motion.
 
 #include <algorithm>
+#include <cmath>
 #include <map>
+#include <sstream>
+#include <string>
+#include <vector>
 
-#include "tests/lesson/lesson_test.h"
+#include "lesson/Form9.h"
+#include "tests/support/scripted_host.h"
 
 namespace clinorama::tests {
 namespace {
+
+using Drawing = forms::DrawingOperation;
+using Kind = Drawing::Kind;
 
 // Drawings in a few words. A segment: its ends, ":" where it is dotted, the first letter of its
 // colour, the width where it is not 1, and the mode of the pen where it does not copy: "&" merges
 // and inverts, "~" inverts. Points that follow one another: the first, the last, colour, number.
 std::string Told(const std::vector<Drawing>& drawings) {
-  const std::map<Kind, std::string> names = {{Kind::Clear, "cls "}, {Kind::Circle, "circle "}};
-  const std::map<int, std::string> pens = {
+  const std::map<std::uint32_t, std::string> pens = {
       {0x000000, "k"}, {0x0000FF, "b"}, {0xFF0000, "r"}, {0xFFFFFF, "w"}};
-  const std::map<int, std::string> modes = {
-      {forms::NotMergePen, "&"}, {forms::InvertPixel, "~"}, {forms::CopyPen, ""}};
   const auto round = [](double value) { return std::round(value * 100) / 100 + 0.0; };
   std::ostringstream all;
   for (std::size_t i = 0; i < drawings.size(); ++i) {
     const Drawing& now = drawings[i];
-    const std::size_t first = i;
-    all << (names.contains(now.What) ? names.at(now.What) : now.Text);
+    const auto joins = [&](std::size_t at) {
+      return at < drawings.size() && drawings[at].What == Kind::Point &&
+             drawings[at].Pen == now.Pen;
+    };
+    all << (now.What == Kind::Clear ? "cls " : now.What == Kind::Circle ? "circle " : now.Text);
     all << (now.Text.empty() ? "" : " ") << round(now.X1) << " " << round(now.Y1);
+    std::string points;
     if (now.What == Kind::Line || now.What == Kind::Circle) {
       all << " " << round(now.X2) << " " << round(now.Y2);
-    } else if (now.What == Kind::Point) {
-      while (i + 1 < drawings.size() && drawings[i + 1].What == Kind::Point &&
-             drawings[i + 1].Pen == now.Pen) {
+    } else if (joins(i)) {
+      const std::size_t first = i;
+      while (joins(i + 1)) {
         ++i;
       }
       all << " .. " << round(drawings[i].X1) << " " << round(drawings[i].Y1);
+      points = std::to_string(i - first + 1);
     }
-    all << (now.What == Kind::Line && now.DrawStyle == forms::Dotted ? " :" : " ");
-    all << pens.at(static_cast<int>(now.Pen.Rgb));
-    all << (now.DrawWidth == 1 ? "" : std::to_string(now.DrawWidth));
-    all << (now.What == Kind::Text ? "" : modes.at(now.DrawMode));
-    all << (i == first ? "" : std::to_string(i - first + 1)) << "; ";
+    all << (now.What == Kind::Line && now.DrawStyle == forms::Dotted ? " :" : " ")
+        << pens.at(now.Pen.Rgb) << (now.DrawWidth == 1 ? "" : std::to_string(now.DrawWidth))
+        << (now.What == Kind::Text || now.DrawMode == forms::CopyPen ? ""
+            : now.DrawMode == forms::InvertPixel                     ? "~"
+                                                                     : "&")
+        << points << "; ";
   }
   return all.str();
 }
@@ -148,8 +159,50 @@ const std::map<int, std::vector<Marker>> Markers = {
 const std::vector<Marker> Rings = {{3, 7, Fr},   {7, 7, 0},   {13, 0, Fr},
                                    {4, 1.5, Fl}, {8, 1.5, 0}, {15, 0, Fl}};
 
-class PagesTest : public LessonTest {
+// The lesson on a scripted machine, opened at page 0, with what it draws on record.
+class LessonTest : public ApplicationTest {
  protected:
+  LessonTest() {
+    page.Show();
+    Record();
+  }
+
+  void Record() {
+    drawn.clear();
+    host.Steps = 0;
+    host.WaitedMilliseconds = 0;
+    page.Picture1.Observer = [this](const Drawing& drawing) { drawn.push_back(drawing); };
+  }
+
+  // Walks forwards; the motions on the way run to their ends.
+  void GoTo(int number) {
+    for (int i = std::stoi(page.Label3.Caption()); i < number; ++i) {
+      page.Seguinte.UserClick();
+    }
+    Record();
+  }
+
+  std::string EnabledButtons() const {
+    std::string letters;
+    for (const auto* button : {&page.Anterior, &page.Seguinte, &page.Parar, &page.Continuar}) {
+      if (button->Enabled) {
+        letters += button->Name().front();
+      }
+    }
+    return letters;
+  }
+
+  // The numbers of the visible texts.
+  std::string Texts() const {
+    std::string numbers = page.Image5.Visible ? "definition " : "";
+    for (int i = page.Image4.First(); i <= page.Image4.Last(); ++i) {
+      if (page.Image4(i).Visible) {
+        numbers += std::to_string(i);
+      }
+    }
+    return numbers;
+  }
+
   void ExpectAt(const std::vector<Marker>& markers) {
     const double corner = page.Picture1.ScaleWidth() == 11 ? 0.12 : 0.24;
     for (const auto& [index, x, y, name] : markers) {
@@ -201,10 +254,12 @@ class PagesTest : public LessonTest {
     return Told(told);
   }
 
+  Form9& page = forms::The<Form9>();
+  std::vector<Drawing> drawn;
   bool rings = false;  // whether a motion showed those of the left side in its last step
 };
 
-TEST_F(PagesTest, OneByOneForwardsAndBack) {
+TEST_F(LessonTest, ShowsItsPagesOneByOneForwardsAndBack) {
   for (int number = 1; number <= 31; ++number) {
     SCOPED_TRACE(number);
     const PageRow& row = Pages[std::min(number, 30) - 1];
@@ -229,11 +284,99 @@ TEST_F(PagesTest, OneByOneForwardsAndBack) {
       ExpectMarkersOf(to);
     }
     if (to == 15 || to == 1) {  // the drawing before stays
-      EXPECT_EQ(ColorAt(page.Picture1, page.Picture1.Kept(), to == 1 ? -4 : -9, 0),
+      const int column = static_cast<int>(page.Picture1.LogicalX(to == 1 ? -4 : -9));
+      EXPECT_EQ(page.Picture1.Kept().At(column, page.Picture1.Kept().Height() / 2),
                 to == 1 ? forms::Blue : forms::Black);
     }
   }
   EXPECT_EQ(EnabledButtons(), "S");
+}
+
+TEST_F(LessonTest, OpensWithTheDefinition) {
+  EXPECT_EQ(page.Label3.Caption(), "0");
+  EXPECT_EQ(Texts(), "definition 0");
+  EXPECT_EQ(EnabledButtons(), "S");
+  EXPECT_TRUE(page.Parar.Visible && page.Continuar.Visible);
+  EXPECT_EQ(page.Image4(7).Picture, "lesson/pagina_07");
+  EXPECT_EQ(page.Image4(33).Picture, "");
+  // The green disc of the cusp lies over the blue one.
+  const auto& children = page.Picture1.Children();
+  EXPECT_GT(std::find(children.begin(), children.end(), &page.Image1(10)),
+            std::find(children.begin(), children.end(), &page.Image1(16)));
+}
+
+TEST_F(LessonTest, LeadsBackToTheStartOfADrawing) {
+  // From further and further on; the other ways back are walked from the end.
+  for (const auto& [from, to] : {std::pair{2, 1}, {6, 5}, {7, 5}, {13, 5}, {15, 5}, {17, 16}}) {
+    GoTo(from);
+    page.Anterior.UserClick();
+    EXPECT_EQ(page.Label3.Caption(), std::to_string(to)) << from;
+    EXPECT_TRUE(page.Picture1.DrawMode == forms::CopyPen || to > 5) << from;
+  }
+}
+
+TEST_F(LessonTest, PausesAMotionWithItsFigureStanding) {
+  GoTo(6);
+  double place = 0;
+  host.AtStep(100, [&] {
+    place = page.Image1(5).Left;
+    page.Parar.UserClick();
+  });
+  host.AtStep(120, [&] {
+    EXPECT_TRUE(page.Continuar.Reachable() && !page.Parar.Visible);
+    EXPECT_TRUE(page.Image1(7).Visible && page.Image1(13).Visible) << "the rings";
+    EXPECT_EQ(page.Image1(5).Left(), place);
+    EXPECT_EQ(drawn.back().DrawMode, forms::NotMergePen);
+    page.Continuar.UserClick();
+    EXPECT_TRUE(page.Parar.Visible && !page.Continuar.Visible && !page.Continuar.Enabled);
+    page.HScroll1.UserScroll(10);
+  });
+  host.AtStep(220, [&] {
+    page.HScroll1.UserScroll(0);
+    host.Depth = 2;
+    page.Parar.UserClick();
+    EXPECT_TRUE(page.Parar.Visible) << "a pause that nothing could end is none";
+  });
+  page.Seguinte.UserClick();
+  EXPECT_EQ(host.Steps, 301 + 20);
+  EXPECT_EQ(host.WaitedMilliseconds, 100 * 5 + 100 * 10) << "the slider acts from the next step on";
+}
+
+TEST_F(LessonTest, CallsOtherPagesIntoAMotion) {
+  GoTo(22);
+  // A later page: it is shown once more after the motion.
+  host.AtStep(10, [&] {
+    page.Seguinte.UserClick();
+    EXPECT_EQ(Texts(), "24");
+    EXPECT_EQ(page.Picture1.DrawMode, forms::NotMergePen) << "as the motion has it";
+  });
+  host.AtStep(11, [&] { EXPECT_EQ(drawn.back().DrawMode, forms::NotMergePen); });
+  page.Seguinte.UserClick();
+  EXPECT_EQ(host.Steps, 8002);
+  EXPECT_NE(Told(drawn).find("cls"), Told(drawn).rfind("cls"));
+  EXPECT_EQ(page.Label3.Caption(), "24");
+  EXPECT_EQ(EnabledButtons(), "AS");
+
+  // An earlier page: the motion goes on over its drawing.
+  page.Anterior.UserClick();
+  Record();
+  host.AtStep(10, [&] { page.Anterior.UserClick(); });
+  page.Seguinte.UserClick();
+  EXPECT_EQ(host.Steps, 8002);
+  EXPECT_EQ(Texts() + EnabledButtons(), "22AS");
+  EXPECT_EQ(drawn.back().Pen, forms::Red);
+
+  // A motion in the motion: it changes the point A, and its page is shown once more.
+  Record();
+  host.AtStep(10, [&] {
+    page.Seguinte.UserClick();
+    page.Seguinte.UserClick();
+    EXPECT_EQ(host.Steps, 10 + 8002);
+  });
+  host.AtStep(10 + 8002 + 1, [&] { EXPECT_EQ(drawn.back().Y1, -2); });
+  page.Seguinte.UserClick();
+  EXPECT_EQ(host.Steps, 3 * 8002);
+  EXPECT_EQ(Texts(), "25");
 }
 
 }  // namespace

@@ -27,7 +27,7 @@ class Journal {
         random_(static_cast<std::mt19937::result_type>(seed_)) {
     current = this;
 #if defined(__SANITIZE_ADDRESS__)
-    __sanitizer_set_death_callback([] { current->Tell(stderr); });
+    __sanitizer_set_death_callback(Tell);
 #endif
     for (const int signal : {SIGABRT, SIGSEGV}) {
       std::signal(signal, Die);
@@ -38,40 +38,31 @@ class Journal {
 
   template <class List>
   auto& OneOf(List& list) {
-    return list[static_cast<decltype(std::size(list))>(Below(static_cast<int>(std::size(list))))];
+    return *std::next(std::begin(list), Below(static_cast<int>(std::size(list))));
   }
   // A number from 0 to `count` - 1, each as likely.
   int Below(int count) { return std::uniform_int_distribution<int>(0, count - 1)(random_); }
   bool OneIn(int count) { return Below(count) == 0; }
 
   void Note(std::string action) { last_.at(actions_++ % last_.size()) = std::move(action); }
-  void NoteDepth(int depth) { depth_ = std::max(depth_, depth); }
   bool Over() const { return std::chrono::steady_clock::now() >= end_; }
 
-  // Ends the program with the last actions unless what must hold does.
-  void Expect(bool holds, const char* what) {
-    if (holds) {
-      return;
-    }
-    std::fprintf(stderr, "does not hold: %s\n", what);
-    std::abort();
-  }
-
-  void TellTotal() const {
-    std::printf("%zu actions, nested at most %d deep, seed %lu\n", actions_, depth_, seed_);
-  }
+  void TellTotal() const { std::printf("%zu actions, seed %lu\n", actions_, seed_); }
 
  private:
   static void Die(int signal) {
     std::signal(signal, SIG_DFL);
-    current->Tell(stderr);
+    Tell();
     std::raise(signal);
   }
 
-  void Tell(FILE* file) const {
-    std::fprintf(file, "seed %lu, after %zu actions; the last ones were:\n", seed_, actions_);
-    for (std::size_t i = 0; i < last_.size(); ++i) {
-      std::fprintf(file, "  %s\n", last_.at((actions_ + i) % last_.size()).c_str());
+  static void Tell() {
+    const auto& last = current->last_;
+    const std::size_t actions = current->actions_;
+    std::fprintf(stderr, "seed %lu, after %zu actions; the last ones were:\n", current->seed_,
+                 actions);
+    for (std::size_t i = 0; i < last.size(); ++i) {
+      std::fprintf(stderr, "  %s\n", last.at((actions + i) % last.size()).c_str());
     }
   }
 
@@ -81,7 +72,6 @@ class Journal {
   std::mt19937 random_;
   std::array<std::string, 40> last_;
   std::size_t actions_ = 0;
-  int depth_ = 0;
 };
 
 }  // namespace clinorama::tests

@@ -4,6 +4,7 @@
 
 #include <qpa/qwindowsysteminterface.h>
 #include <QAbstractButton>
+#include <QAccessible>
 #include <QAction>
 #include <QApplication>
 #include <QPointer>
@@ -17,35 +18,18 @@
 #include "journal.h"
 #include "lesson/Form9.h"
 #include "shell/Form2.h"
+#include "tests/support/two_screens.h"
 #include "workpage/Form12.h"
 
 namespace clinorama::tests {
 namespace {
 
-class MonkeyHost final : public desktop::QtHost {
- public:
-  MonkeyHost(Journal& journal) : journal_(journal) {}
-  void Wait(int /*milliseconds*/) override {  // motions at their quickest
-    Nest([&] { QtHost::Wait(0); });
-  }
-  void WaitForEvents() override {
-    Nest([&] { QtHost::WaitForEvents(); });
-  }
+struct MonkeyHost final : desktop::QtHost {
+  void Wait(int /*milliseconds*/) override { QtHost::Wait(0); }  // motions at their quickest
   [[noreturn]] void End() override {
-    journal_.Expect(false, "nobody ends the program");
+    std::fputs("somebody ended the program\n", stderr);
     std::abort();
   }
-
- private:
-  template <class Call>
-  void Nest(Call call) {
-    journal_.NoteDepth(++waits_);
-    call();
-    --waits_;
-  }
-
-  Journal& journal_;
-  int waits_ = 0;  // on the stack
 };
 
 class Monkey {
@@ -85,32 +69,28 @@ class Monkey {
       }
     }
     const std::string name = window.objectName().toStdString();
-    switch (journal_.Below(16)) {
-      case 0:
-        if (name == "Form2" || !journal_.OneIn(5)) {
-          return;
-        }
+    const int what = journal_.Below(16);
+    if (what == 0) {
+      if (name != "Form2" && journal_.OneIn(5)) {
         journal_.Note("close " + name);
         QWindowSystemInterface::handleCloseEvent(window.windowHandle());
-        return;
-      case 1:
-        journal_.Note("activate " + name);
-        window.activateWindow();
-        return;
-      case 2:
-      case 3:
-      case 4:
-        Press(window);
-        return;
-      default:
-        Click(window);
+      }
+    } else if (what == 1) {
+      journal_.Note("activate " + name);
+      window.activateWindow();
+    } else if (what == 2 && journal_.OneIn(5)) {
+      journal_.Note("move " + name);
+      window.move(journal_.Below(2900), journal_.Below(700));
+    } else {
+      what < 5 ? Press(window) : Click(window);
     }
   }
 
   void Press(QWidget& window) {
-    static constexpr Qt::Key Keys[] = {Qt::Key_Return, Qt::Key_Space, Qt::Key_Tab,  Qt::Key_Escape,
-                                       Qt::Key_Left,   Qt::Key_Right, Qt::Key_Down, Qt::Key_F10,
-                                       Qt::Key_Alt,    Qt::Key_X,     Qt::Key_2,    Qt::Key_Delete};
+    static constexpr Qt::Key Keys[] = {
+        Qt::Key_Return, Qt::Key_Space,  Qt::Key_Tab,    Qt::Key_Escape,  Qt::Key_Left,
+        Qt::Key_Right,  Qt::Key_Down,   Qt::Key_F10,    Qt::Key_Alt,     Qt::Key_X,
+        Qt::Key_2,      Qt::Key_Delete, Qt::Key_PageUp, Qt::Key_PageDown};
     const Qt::Key key = journal_.OneOf(Keys);
     const QString text = key == Qt::Key_X || key == Qt::Key_2 ? QString(QChar(key)) : QString();
     journal_.Note("key " + std::to_string(key) + " in " + window.objectName().toStdString());
@@ -139,6 +119,13 @@ class Monkey {
   void Click(QWidget& window) {
     QWidget* widget = ChooseWidget(window);
     last_ = widget;
+    if (journal_.OneIn(10)) {
+      journal_.Note("action of " + widget->objectName().toStdString());
+      if (auto* actions = QAccessible::queryAccessibleInterface(widget)->actionInterface()) {
+        actions->doAction(QAccessibleActionInterface::pressAction());
+      }
+      return;
+    }
     const Qt::MouseButton button = journal_.OneIn(20) ? Qt::RightButton : Qt::LeftButton;
     // Beside the middle there are the ends of bars, and the items of menus.
     const QPoint point = journal_.OneIn(2) ? widget->rect().center()
@@ -174,12 +161,12 @@ class Monkey {
 
 int main(int argc, char** argv) {
   using namespace clinorama;  // NOLINT(google-build-using-namespace): it is the end of the program
-  qputenv("QT_QPA_PLATFORM", "offscreen");
+  const tests::TwoScreens screens;
   qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
   QApplication qt(argc, argv);
   tests::Journal journal(argc, argv);
   desktop::SetLook();
-  tests::MonkeyHost host(journal);
+  tests::MonkeyHost host;
   forms::Application application(host);
   forms::The<Form2>().Show();
   forms::The<Form12>().Show();

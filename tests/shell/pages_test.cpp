@@ -112,10 +112,7 @@ TEST_F(AllPages, HaveTheseWays) {
       {{"Unloaded Form4"}, {"Form4 frame"}},
       {{"Unloaded Form11"}, {"Form11 frame"}},
   };
-  for (const auto& [effect, items] : expected) {
-    EXPECT_EQ(ways[effect], items) << testing::PrintToString(effect);
-  }
-  EXPECT_EQ(ways.size(), expected.size());
+  EXPECT_EQ(ways, expected);
 }
 
 // The controls that reach beyond their container, and the pairs in one container that lie neither
@@ -170,10 +167,8 @@ std::string SightOf(const PageViewer& viewer) {
 template <class Viewer>
 void Leaf(const std::string& pictures, int pages) {
   const auto expectPage = [&](int page) {
-    const std::string back = page == 1 ? "" : "< ";
-    const std::string forward = page == pages ? "" : " >";
-    EXPECT_EQ(SightOf(The<Viewer>()),
-              back + pictures + base::TwoDigits(page) + " " + std::to_string(page) + forward);
+    EXPECT_EQ(SightOf(The<Viewer>()), (page == 1 ? "" : "< ") + pictures + base::TwoDigits(page) +
+                                          " " + std::to_string(page) + (page == pages ? "" : " >"));
   };
   Viewer& viewer = The<Viewer>();
   viewer.Show();
@@ -236,15 +231,14 @@ TEST_F(AllPages, TransferTheExamplesOfThePicturesAboveTheButtons) {
     button.UserClick();
     EXPECT_EQ(The<Form12>().Função1.Text, expression);
     ++example;
-    const std::string picture = "examples/exemplo_" + std::to_string(example);
-    for (const auto& [number, shown] :
-         {std::pair(example, picture), std::pair(17 + 2 * example, picture + "_primeira"),
-          std::pair(18 + 2 * example, picture + "_segunda")}) {
+    for (const auto& [number, suffix] : {std::pair(example, ""),
+                                         {17 + 2 * example, "_primeira"},
+                                         {18 + 2 * example, "_segunda"}}) {
       const auto& image = dynamic_cast<forms::Image&>(
           *forms::FindControl(The<Form5>(), "Image" + std::to_string(number)));
-      EXPECT_EQ(image.Picture, shown);
-      EXPECT_EQ(image.Left, button.Left + (shown == picture ? 0 : 2310)) << shown;
-      EXPECT_LE(image.Top + image.Height, button.Top) << shown;
+      EXPECT_EQ(image.Picture, "examples/exemplo_" + std::to_string(example) + suffix);
+      EXPECT_EQ(image.Left, button.Left + (number == example ? 0 : 2310)) << image.Picture;
+      EXPECT_LE(image.Top + image.Height, button.Top) << image.Picture;
     }
   }
 }

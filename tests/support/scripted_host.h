@@ -2,11 +2,11 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <functional>
 #include <map>
 #include <optional>
 #include <string>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -24,12 +24,7 @@ struct ProgramEnded {};
 // What stops a handler that waits for something its script never brings; see LongestWait.
 struct WaitedForever {};
 
-struct MessageBox {
-  std::string Text;
-  int Style = 0;
-  std::string Title;
-  friend bool operator==(const MessageBox&, const MessageBox&) = default;
-};
+using MessageBox = std::tuple<std::string, int, std::string>;  // text, style, title
 
 // A machine without windows and without a clock: what the user does is a script, and what the
 // program did is kept for the test to read. A step is one wait; steps are counted from 1 since the
@@ -59,11 +54,6 @@ class ScriptedHost final : public forms::Host {
   // Has the user do something in a step; several actions of one step run in the order given.
   void AtStep(int step, std::function<void()> action) { script_.emplace(step, std::move(action)); }
 
-  // How often a property of the control took a new value.
-  int ChangesOf(const forms::Control& control) const {
-    return static_cast<int>(std::count(Changes.begin(), Changes.end(), &control));
-  }
-
   double Density() const override { return DeviceDensity; }
   void Shown(forms::Page& page) override { PageCalls.push_back("Shown " + page.Name()); }
   void Hidden(forms::Page& page) override { PageCalls.push_back("Hidden " + page.Name()); }
@@ -79,7 +69,7 @@ class ScriptedHost final : public forms::Host {
   }
   void SetFocus(forms::Control& control) override { Focused.push_back(control.Name()); }
   void MsgBox(const std::string& text, int style, const std::string& title) override {
-    MessageBoxes.push_back({text, style, title});
+    MessageBoxes.emplace_back(text, style, title);
     if (DuringMessageBox) {
       DuringMessageBox();
     }

@@ -74,6 +74,8 @@ TEST_F(Canvas, IsDrawnAnewByClearingAndByEveryReturnWhateverThePensWere) {
     clearing ? page.ApagarGráfico.UserClick() : The<Form2>().Clinorama.UserClick();
     ExpectDrawn(onKept, expected, true);
     ExpectDrawn(onLive, expected, false);
+    EXPECT_EQ(std::pair(page.Image3.Left() / 15, page.Image3.Top() / 15), std::pair(618.0, 312.0));
+    EXPECT_EQ(std::pair(page.Image2.Left() / 15, page.Image2.Top() / 15), std::pair(312.0, 11.0));
     EXPECT_EQ(State(), clearing ? "|| kept right" : "||3 kept right");
     setting->Value = true;
   }
@@ -100,20 +102,19 @@ TEST_F(Canvas, DrawsAxesInRadiansOnTheKeptSurfaceOnly) {
 }
 
 TEST_F(Canvas, NamesTheNextGraduationOnTheButtonAndWritesEachTextInItsFont) {
-  forms::Font letters = {.Name = "MS Sans Serif", .Size = 8.25, .Bold = true};
-  for (const std::string next : {"radianos", "unidades", "radianos"}) {
+  double letters = 8.25;  // then the size of the numbers printed last
+  for (const bool radians : {false, true, false}) {
     const auto count = [this](const forms::Font& font) {
       return std::count_if(host.Texts.begin(), host.Texts.end(),
                            [&](const forms::TextRun& run) { return run.Font == font; });
     };
-    const bool inUnits = next == "radianos";
-    EXPECT_EQ(count(letters), 4);
-    EXPECT_EQ(count({.Name = "MS Serif", .Size = 6, .Bold = true}), inUnits ? 96 : 48);
-    EXPECT_EQ(count({.Name = "symbol", .Size = 8, .Bold = false}), inUnits ? 0 : 14);
-    EXPECT_EQ(page.EixosRad.Caption, inUnits ? "Radianos" : "Unidades");
-    EXPECT_EQ(page.EixosRad.ToolTipText, "Graduar o eixo das abcissas em " + next + ".");
+    EXPECT_EQ(count({"MS Sans Serif", letters, true}), 4);
+    EXPECT_EQ(count({"MS Serif", 6, true}), radians ? 48 : 96);
+    EXPECT_EQ(count({"symbol", 8, false}), radians ? 14 : 0);
+    EXPECT_EQ(page.EixosRad.Caption, radians ? "Unidades" : "Radianos");
+    EXPECT_TRUE(page.EixosRad.ToolTipText().ends_with(radians ? " em unidades." : " em radianos."));
     host.Texts.clear();
-    letters.Size = 6;  // that of the numbers printed last
+    letters = 6;
     page.EixosRad.UserClick();
   }
 }
@@ -172,18 +173,15 @@ TEST_F(Plotting, ShowsThePointsAsTheyArriveAndDoesNotGiveWay) {
   EXPECT_EQ(host.Steps, 0);
 }
 
-TEST_F(Plotting, AsksForAFunctionAndLeavesTheLiveSurfaceInFront) {
-  const int before = host.ChangesOf(page);  // the pointer is a property of the page itself
+TEST_F(Plotting, StopsWithoutAFunctionOrAtAnErrorWithThePointsSoFar) {
+  host.Changes.clear();
   Plot("");
   EXPECT_EQ(host.MessageBoxes, MessageBoxes{Limits("Deve escrever a expressão analítica da função "
                                                    "que pretende representar graficamente.")});
   EXPECT_EQ(State(), "|| live");
-  EXPECT_EQ(host.ChangesOf(page), before) << "an hourglass";
-  page.Função1.UserType("x");
-  EXPECT_FALSE(PlottedOnce());
-}
-
-TEST_F(Plotting, StopsAtAnErrorWithThePointsSoFar) {
+  EXPECT_EQ(std::count(host.Changes.begin(), host.Changes.end(), &page), 0) << "an hourglass";
+  page.Calcular.UserClick();
+  EXPECT_EQ(host.MessageBoxes.back(), NotPlotted);
   host.DuringMessageBox = [&] {
     EXPECT_EQ(State(), "|| live");
     EXPECT_TRUE(host.Focused.empty());
@@ -199,7 +197,9 @@ TEST_F(Plotting, StopsAtAnErrorWithThePointsSoFar) {
   }
   host.DuringMessageBox = nullptr;
   EXPECT_EQ(onKept.size(), 24022u) << "below 12 up to log10(12)/100, and overflow beyond 3,08";
-  EXPECT_TRUE(PlottedOnce());
+  page.Abcissa.UserType("");
+  page.DerivadaDireita.UserClick();
+  EXPECT_EQ(host.MessageBoxes.back(), Limits("Tem de indicar a abcissa do ponto."));
 }
 
 }  // namespace

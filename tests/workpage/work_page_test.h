@@ -65,13 +65,6 @@ class WorkPageTest : public ApplicationTest {
     page.DerivadaDireita.Value = true;
   }
 
-  // Whether a plotting was attempted: the right option asks for it before it asks for an abscissa.
-  bool PlottedOnce() {
-    page.Abcissa.UserType("");
-    page.DerivadaDireita.UserClick();
-    return host.MessageBoxes.back() == Limits("Tem de indicar a abcissa do ponto.");
-  }
-
   // The three values, what differs from a page at rest, and the locked controls, in words.
   std::string State() const {
     std::string words =

@@ -1,17 +1,79 @@
-// The twelve drawing buttons: what each plots, how it begins and ends, and what it does about a
-// failure.
+// The relations page. The twelve drawing buttons: what each plots, how it begins and ends, and what
+// it does about a failure. Then graduation, colours, clearing, leaving and returning.
 
+#include <gtest/gtest.h>
+
+#include <algorithm>
 #include <array>
 #include <cmath>
+#include <functional>
+#include <map>
+#include <string>
+#include <vector>
 
-#include "tests/relations/relations_test.h"
+#include "base/number_text.h"
+#include "forms/application.h"
+#include "relations/Form13.h"
+#include "tests/support/scripted_host.h"
 
 namespace clinorama::tests {
 namespace {
 
-using DrawingTest = RelationsTest;
 using F = Form13;
 using forms::MousePointer;
+using Button = forms::CommandButton Form13::*;
+using Drawing = forms::DrawingOperation;
+
+// Numbers of the palette.
+enum { AnyColor = -1, CurveBlue = 9, Green, Cyan, Red, Magenta, Yellow };
+
+// The relations page in front, with what is drawn on its canvases on record.
+class RelationsTest : public ApplicationTest {
+ protected:
+  RelationsTest() {
+    page.Show();
+    for (int index = 1; index <= 6; ++index) {
+      page.Picture1(index).Observer = [this, index](const Drawing& operation) {
+        if (DuringDrawing) {
+          DuringDrawing();
+        }
+        Drawn[index].push_back(operation);
+      };
+    }
+  }
+
+  // Presses a button, with a text in the box or with the one that is there; the record starts anew.
+  void Press(Button button, const std::string& text = {}) {
+    if (!text.empty()) {
+      page.Função1.Text = text;
+    }
+    Drawn.clear();
+    host.MessageBoxes.clear();
+    host.Focused.clear();
+    host.Flushes.clear();
+    (page.*button).UserClick();
+  }
+
+  // The points on a canvas, in a colour of the palette or in any.
+  std::vector<Drawing> Points(int canvas, int color = AnyColor) {
+    auto found = Drawn[canvas];
+    std::erase_if(found, [&](const Drawing& drawing) {
+      return drawing.What != Drawing::Kind::Point ||
+             (color != AnyColor && drawing.Pen != forms::QBColor(color));
+    });
+    return found;
+  }
+
+  // Whether the persistent canvas of a window is seen; its live twin is seen otherwise.
+  bool PersistentInView(int persistent) {
+    EXPECT_NE(page.Picture1(persistent).Visible(), page.Picture1(persistent + 1).Visible());
+    return page.Picture1(persistent).Visible;
+  }
+
+  Form13& page = forms::The<Form13>();
+  std::function<void()> DuringDrawing;
+  std::map<int, std::vector<Drawing>> Drawn;
+};
 
 // The message for an empty box.
 const char* const Short = "Deve escrever a expressão analítica da função.";
@@ -23,7 +85,7 @@ const std::string OneFailure = "0*exp(0.0715/((x-1)^2+0.0001))";
 
 // How each button begins and ends. The expression that cannot be interpreted gives a message, or
 // lines in some colours that all have one ordinate, or nothing.
-TEST_F(DrawingTest, EmptyBoxLiveDrawingAndUnbalancedParentheses) {
+TEST_F(RelationsTest, EmptyBoxLiveDrawingAndUnbalancedParentheses) {
   struct Row {
     Button Press;
     int Persistent;
@@ -104,7 +166,7 @@ TEST_F(DrawingTest, EmptyBoxLiveDrawingAndUnbalancedParentheses) {
 
 // The samples of polynomials, whose quotients are polynomials too: which of them are plotted in a
 // colour, and where. Constants show the passes of each loop, and what a zero or a bound meets.
-TEST_F(DrawingTest, Polynomials) {
+TEST_F(RelationsTest, Polynomials) {
   struct Row {
     Button Press;
     const char* Text;
@@ -170,7 +232,7 @@ TEST_F(DrawingTest, Polynomials) {
 }
 
 // Skipped silently, a failure costs its own point; the next quotient starts from a repeated value.
-TEST_F(DrawingTest, FailureAtOneAbscissa) {
+TEST_F(RelationsTest, FailureAtOneAbscissa) {
   const auto near = [this](int canvas, double x) {
     auto found = Points(canvas);
     std::erase_if(found, [x](const Drawing& point) { return std::abs(point.X1 - x) > 0.0005; });
@@ -200,7 +262,7 @@ TEST_F(DrawingTest, FailureAtOneAbscissa) {
   EXPECT_NEAR(Points(1).back().X1, 0.999, 1e-6);
 }
 
-TEST_F(DrawingTest, ValuesThatAreLeftOut) {
+TEST_F(RelationsTest, ValuesThatAreLeftOut) {
   // The colour asks for the value of the sample before: the first value above 0 is left out.
   Press(&F::ColocarCoresPrimeira2, "(abs(x-0.0005)+(x-0.0005))^2");
   EXPECT_NEAR(Points(3).front().X1, 0.002, 1e-9);
@@ -221,6 +283,175 @@ TEST_F(DrawingTest, ValuesThatAreLeftOut) {
   Press(&F::InflexõesFunção, "sqr(x+20)+0*exp(100000*(x-0.9932))");
   EXPECT_TRUE(Points(1).empty());
   EXPECT_TRUE(host.MessageBoxes.empty());
+}
+
+// The buttons of a window that tests ask alike of all windows.
+struct Window {
+  int Persistent;
+  Button Draw, Clear, Toggle, Color, Background;
+  bool F::*Radians;
+};
+const Window Windows[] = {
+    {1, &F::DesenharGráfico, &F::ApagarGráfico1, &F::EixosRad, &F::CorDoGráfico, &F::CorDoFundo,
+     &F::RadianosFunção},
+    {3, &F::DesenharPrimeira, &F::ApagarPrimeira, &F::EixosRad1, &F::CorPrimeira,
+     &F::CorFundoPrimeira, &F::RadianosPrimeira},
+    {5, &F::DesenharSegunda, &F::ApagarSegunda, &F::EixosRad2, &F::CorSegunda, &F::CorFundoSegunda,
+     &F::RadianosSegunda},
+};
+
+TEST_F(RelationsTest, OpensWithLiveCanvasesInUnits) {
+  EXPECT_EQ(page.Função1.Text(), "x*(1-cos(x))");
+  for (const auto& [persistent, pixels] : {std::pair{1, 533}, {3, 333}, {5, 333}}) {
+    const forms::PictureBox& kept = page.Picture1(persistent);
+    const forms::PictureBox& live = page.Picture1(persistent + 1);
+    EXPECT_FALSE(PersistentInView(persistent));
+    EXPECT_TRUE(kept.AutoRedraw && !live.AutoRedraw);
+    EXPECT_TRUE(live.ScaleWidth() == 20 && live.ScaleHeight() == -20);
+    EXPECT_TRUE(kept.Left() == live.Left() && kept.Top() == live.Top());
+    EXPECT_TRUE(kept.Screen().Width() == pixels && live.Screen().Width() == pixels);
+  }
+}
+
+// The axes with their heads, marks and numbers, on both canvases of a window.
+TEST_F(RelationsTest, GraduatesInUnitsAndInRadians) {
+  const char* const labels[] = {"-5p/2", "-2p", "-3p/2", "-p", "-p/2", "",
+                                "p/2",   "p",   "3p/2",  "2p", "5p/2"};
+  const double offsets[] = {0.9, 0.5, 0.6, 0.3, 0.5, 0, 0.5, 0.3, 0.6, 0.3, 0.6};
+  const auto same = [](const Drawing& a, const Drawing& b) {
+    const double ends = std::hypot(a.X2 - b.X2, a.Y2 - b.Y2);
+    return a.What == b.What && a.Text == b.Text && a.DrawStyle == b.DrawStyle &&
+           std::hypot(a.X1 - b.X1, a.Y1 - b.Y1, ends) < 1e-9;
+  };
+  forms::Surface expected(8000, 8000, 1);
+  expected.Observer = [&](const Drawing& operation) { Drawn[0].push_back(operation); };
+  for (const bool radians : {false, true}) {
+    Press(radians ? &F::EixosRad : &F::ApagarGráfico1);
+    expected.Cls();
+    expected.Line(-9, 0, 9, 0);
+    expected.Line(0, 9, 0, -9);
+    for (const double side : {-0.15, 0.15}) {
+      expected.Line(side, 8.7, 0, 9);
+      expected.Line(8.7, side, 9.1, 0);
+    }
+    expected.PrintAt(9.2, -0.3, "x");
+    expected.PrintAt(-0.7, 9.7, "y");
+    for (int j = -8; j <= 8; ++j) {
+      expected.Line(-0.1, j, 0.1, j);
+      if (j != 0) {
+        expected.PrintAt(-0.7, j + 0.3, base::PrintedNumber(j));
+      }
+      for (int time = 0; radians && time < 2; ++time) {
+        expected.PSet(-0.05, j);
+        expected.PSet(0.1, j);
+      }
+    }
+    for (int i = radians ? -5 : -8; i <= (radians ? 5 : 8); ++i) {
+      const double x = radians ? i * 3.14159 / 2 : i;
+      expected.Line(x, 0.1, x, -0.1);
+      if (i != 0 && radians) {
+        expected.PrintAt(x - offsets[i + 5], -0.6, labels[i + 5]);
+      } else if (i != 0) {
+        expected.PrintAt(x - 0.3, -0.4, base::PrintedNumber(i));
+      }
+    }
+    for (const int canvas : {1, 2}) {
+      EXPECT_TRUE(std::is_permutation(Drawn[0].begin(), Drawn[0].end(), Drawn[canvas].begin(),
+                                      Drawn[canvas].end(), same));
+    }
+  }
+}
+
+// The numbers of the y axis are bold after a graduation in units and plain after one in radians.
+TEST_F(RelationsTest, FontsOfTheGraduation) {
+  const auto fonts = [&](Button button) {
+    host.Texts.clear();
+    Press(button);
+    std::map<std::string, std::string> found;
+    for (const forms::TextRun& run : host.Texts) {
+      found[run.Text] = run.Font.Name + (run.Font.Bold ? " bold " : " ") +
+                        std::to_string(std::lround(run.Font.Size));
+    }
+    return found[" 8 "] + ", " + found["x"] + ", " + found["2π"];
+  };
+  EXPECT_EQ(fonts(&F::EixosRad), "MS Serif bold 6, MS Sans Serif bold 6, symbol 9");
+  EXPECT_EQ(fonts(&F::ApagarGráfico1), "MS Serif 6, MS Sans Serif bold 6, symbol 9");
+  EXPECT_EQ(fonts(&F::EixosRad), "MS Serif bold 6, MS Sans Serif bold 6, ");
+}
+
+// Colours and graduation of each window, and what is left of them after leaving and returning.
+TEST_F(RelationsTest, EachWindowHasItsOwnColoursAndGraduation) {
+  for (const Window& window : Windows) {
+    SCOPED_TRACE(window.Persistent);
+    const int live = window.Persistent + 1;
+    host.ChosenColor = forms::QBColor(Yellow);
+    host.ColorsOffered.clear();
+    Press(window.Color);
+    EXPECT_TRUE(Drawn.empty());
+    Press(window.Draw, "x^2");
+    EXPECT_EQ(Points(live).at(0).Pen, forms::QBColor(Yellow));
+    for (const bool radians : {true, false}) {
+      for (const Button button : {window.Toggle, window.Clear, window.Background}) {
+        Press(button);
+        EXPECT_EQ(Drawn.size(), 2U);
+        EXPECT_EQ(page.*window.Radians, radians);
+        for (auto& [canvas, drawings] : Drawn) {
+          EXPECT_TRUE(canvas == window.Persistent || canvas == live);
+          EXPECT_EQ(drawings.back().Text, radians ? "5p/2" : "y");
+        }
+      }
+      EXPECT_EQ((page.*window.Toggle).Caption(), radians ? "Unidades" : "Radianos");
+      EXPECT_TRUE(
+          (page.*window.Toggle).ToolTipText().ends_with(radians ? " unidades" : " radianos"));
+      host.ChosenColor.reset();  // the second background is cancelled
+    }
+    EXPECT_EQ(host.ColorsOffered, (std::vector{forms::Blue, forms::White, forms::QBColor(Yellow)}));
+    Press(&F::Sair);
+    page.Show();
+    EXPECT_EQ(page.Picture1(window.Persistent).BackColor(), forms::QBColor(Yellow));
+    EXPECT_EQ(page.Picture1(live).BackColor(), forms::QBColor(Yellow));
+    Press(window.Draw);
+    EXPECT_EQ(Points(live).at(0).Pen, forms::Blue);
+    Press(window.Background);
+    EXPECT_EQ(page.Picture1(live).BackColor(), forms::White);
+  }
+}
+
+// Leaving toggles: function, first derivative, and the second one only if the first came to units.
+TEST_F(RelationsTest, CaptionsAfterLeavingAndReturning) {
+  // The graduations when the user leaves, and the first letters of the captions afterwards.
+  for (const auto& [left, captions] :
+       {std::pair{"uru", "URU"}, {"rur", "RUU"}, {"rrr", "RRR"}, {"uuu", "UUR"}}) {
+    for (int i = 0; i < 3; ++i) {
+      if (left[i] == 'r') {
+        Press(Windows[i].Toggle);
+      }
+    }
+    Press(&F::Sair);
+    EXPECT_FALSE(page.Visible());
+    page.Show();
+    for (int i = 0; i < 3; ++i) {
+      EXPECT_EQ((page.*Windows[i].Toggle).Caption().front(), captions[i]) << left << i;
+      EXPECT_FALSE(page.*Windows[i].Radians);
+      EXPECT_EQ(Drawn[Windows[i].Persistent].back().Text, "y");
+    }
+  }
+  // A clearing in units sets the caption right on the function only.
+  Press(&F::ApagarGráfico1);
+  Press(&F::ApagarPrimeira);
+  EXPECT_EQ(page.EixosRad.Caption(), "Radianos");
+  EXPECT_EQ(page.EixosRad1.Caption(), "Unidades");
+}
+
+TEST_F(RelationsTest, ClearingTheFirstDerivativeForgetsTheColouringOfTheSecond) {
+  std::string modes;
+  for (const Button button :
+       {&F::ColocarCoresFunção, &F::ColocarCoresFunção2, &F::ColocarCoresSegunda, &F::ApagarSegunda,
+        &F::ApagarPrimeira, &F::ApagarGráfico1}) {
+    Press(button);
+    modes += std::to_string(page.ModoCoresFunção) + std::to_string(page.ModoCoresSegunda) + " ";
+  }
+  EXPECT_EQ(modes, "10 20 21 21 20 00 ");
 }
 
 }  // namespace

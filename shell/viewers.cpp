@@ -1,7 +1,6 @@
-#include "shell/manual_menu.h"
+#include "shell/viewers.h"
 
 #include "forms/application.h"
-#include "shell/viewers.h"
 
 namespace clinorama {
 
