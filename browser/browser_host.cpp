@@ -16,7 +16,7 @@
 namespace clinorama::browser {
 namespace {
 
-// Passes on what the user did to a control->
+// Passes on what the user did to a control.
 class Delivery final : public forms::ControlVisitor {
  public:
   explicit Delivery(const document::Event& event) : event_(event) {}
