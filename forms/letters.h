@@ -7,8 +7,7 @@ namespace clinorama::forms {
 
 // How a host paints the letters of a font, in device pixels.
 struct Letters {
-  bool Comic =
-      false;  // in the rounded hand that stands for "Comic Sans MS", or in the plain family
+  bool Comic = false;  // in the family that stands for "Comic Sans MS", not in the plain one
   int Pixels = 1;
   bool Bold = false;
   bool Narrow = false;  // by NarrowWidth
