@@ -1,6 +1,5 @@
 #include "browser/description.h"
 
-#include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstdio>
@@ -21,17 +20,10 @@ std::string InHex(forms::Color color) {
   return digits.data();
 }
 
-double Pixels(double twips) {
-  // A marker may be sent far off its surface; it is as invisible a little beyond.
-  constexpr double Far = 10000;
-  return std::clamp(twips / forms::TwipsToPixel, -Far, Far);
-}
-
 std::string FontDescription(const forms::Font& font) {
-  constexpr double PixelsToPoint = 96.0 / 72.0;
   return JsonObject()
       .Flag("comic", forms::LettersFor(font, 1).Comic)
-      .Number("size", font.Size * PixelsToPoint)
+      .Number("size", font.Size * forms::PixelsToPoint)
       .Flag("bold", font.Bold)
       .Done();
 }
@@ -88,10 +80,10 @@ JsonObject Described(forms::Control& control, const Numbers& numbers) {
   JsonObject json;
   json.Number("number", numbers.Of(&control))
       .Text("name", control.Name())
-      .Number("left", Pixels(control.Left))
-      .Number("top", Pixels(control.Top))
-      .Number("width", Pixels(control.Width))
-      .Number("height", Pixels(control.Height))
+      .Number("left", forms::LogicalPixels(control.Left))
+      .Number("top", forms::LogicalPixels(control.Top))
+      .Number("width", forms::LogicalPixels(control.Width))
+      .Number("height", forms::LogicalPixels(control.Height))
       .Flag("visible", control.Visible)
       .Flag("enabled", control.Enabled)
       .Text("tip", control.ToolTipText())

@@ -240,8 +240,10 @@ void PageWindow::Focus(forms::Control& control) {
 
 void PageWindow::Leave() {
   page_ = nullptr;
-  fitting_.stop();
-  announcing_.stop();
+  for (QTimer* timer : {&fitting_, &announcing_}) {
+    timer->stop();
+    timer->blockSignals(true);  // a screen may still start it
+  }
   views_.clear();
   hide();
   const auto cutOff = [this](QObject* object) {

@@ -313,11 +313,7 @@ View MakeView(forms::Control& control, QWidget& parent) {
 }
 
 QRect PlaceOf(const forms::Control& control, double zoom) {
-  // A marker may be sent far off its surface; it is as invisible a little beyond.
-  const auto pixel = [zoom](double twips) {
-    constexpr double Far = 10000;
-    return qRound(std::clamp(twips / forms::TwipsToPixel * zoom, -Far, Far));
-  };
+  const auto pixel = [zoom](double twips) { return qRound(forms::LogicalPixels(twips) * zoom); };
   return {pixel(control.Left), pixel(control.Top), pixel(control.Width), pixel(control.Height)};
 }
 

@@ -2,10 +2,11 @@
 
 #include <algorithm>
 
+#include "forms/units.h"
+
 namespace clinorama::forms {
 namespace {
 
-constexpr double PixelsToPoint = 96.0 / 72.0;
 // Below this size in device pixels the digits of an axis are painted without grey edges and never
 // bold, as their strokes are a pixel wide at the least: that keeps them sharp. The letters "x" and
 // "y" would look like others then.

@@ -15,8 +15,6 @@ namespace {
 // A dotted line is this many logical pixels on and as many off, counted from its first point.
 constexpr int DotLength = 2;
 
-constexpr double PixelsToPoint = 96.0 / 72.0;
-
 // Coordinates are stored as 32-bit reals.
 double Reduced(double coordinate) {
   constexpr auto Largest = static_cast<double>(std::numeric_limits<float>::max());

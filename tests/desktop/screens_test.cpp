@@ -123,6 +123,15 @@ TEST_F(ScreensTest, APageMovedToAnotherScreenIsFittedToItWithItsDrawing) {
   EXPECT_EQ(Window("Form12")->size(), before);
 }
 
+TEST_F(ScreensTest, AWindowWithoutAPageIsNotFitted) {
+  The<Form12>().Show();
+  Window("Form12")->move(Screen(1).geometry().topLeft());
+  QTest::qWait(ToFit / 10);
+  Window("Form12")->close();
+  emit Screen(1).availableGeometryChanged({});
+  QTest::qWait(ToFit);
+}
+
 TEST_F(ScreensTest, TheDesktopsOwnLookChangesNothing) {
   const QPalette light = QApplication::palette();
   const QFont plain = QApplication::font();
