@@ -19,10 +19,24 @@ double Quotient(const Step&, double l, double r) {
   return Divides(r) && Finite(r) ? l / r : NotANumber;
 }
 
+// A failure that a calculation raises becomes a value.
+template <class Calculation, class Value>
+Value OrElse(Calculation calculation, Value ofFailure) {
+  try {
+    return calculation();
+  } catch (const Failure&) {
+    return ofFailure;
+  }
+}
+
 // These two need no test of their own: an operand that is not finite cannot be rounded, and a
 // divisor that is too small rounds to 0, so the calculation fails.
-double WholeQuotient(const Step&, double l, double r) { return IntegerQuotient(l, r); }
-double WholeRemainder(const Step&, double l, double r) { return IntegerRemainder(l, r); }
+double WholeQuotient(const Step&, double l, double r) {
+  return OrElse([=] { return IntegerQuotient(l, r); }, NotANumber);
+}
+double WholeRemainder(const Step&, double l, double r) {
+  return OrElse([=] { return IntegerRemainder(l, r); }, NotANumber);
+}
 
 double Raised(const Step&, double l, double r) {
   return Finite(l) && Finite(r) ? PlainPower(l, r) : NotANumber;
@@ -32,14 +46,15 @@ double Called(const Step& step, double l, double r) {
   if (!Finite(l) || !Finite(r)) {
     return NotANumber;
   }
-  const Returned returned = step.Compute(l, r);
+  const Returned returned =
+      OrElse([&] { return step.Compute(l, r); }, Returned(GuardResult::Failed));
   return returned.Guard == GuardResult::Passed ? returned.Value : NotANumber;
 }
 
 // Most operands are the result of the step before, which is passed in a register. It is stored in
 // memory only where the next step has other operands.
 template <double (*Calculate)(const Step&, double, double), bool LeftIsValue, bool RightIsValue>
-double Carry(const Step& step, double value) {
+double Carry(const Step& step, double value) noexcept {
   if constexpr (!LeftIsValue && !RightIsValue) {
     *step.Kept = value;
   }
