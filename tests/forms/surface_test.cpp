@@ -378,7 +378,7 @@ TEST(Surface, LooksAtAnotherDensityAsIfItHadAlwaysBeenThere) {
 TEST(Surface, KeepsItsDensityWhereTooMuchWasDrawn) {
   PixelSurface surface(4, 1);
   surface.PSet(1.5, 0.5);
-  for (std::size_t i = 0; i < forms::Strokes::MostPlaces; ++i) {
+  for (std::size_t i = 0; i < forms::Strokes::MostPlaces / 4; ++i) {
     forms::ShowInPassing(
         surface, [&] { surface.Line(0, 0, 3, 0); }, [] {});
   }
