@@ -20,6 +20,7 @@ struct Place {
 
 // What the painting of a figure needs beside its places.
 struct Stroke {
+  // Each by its places.
   enum class Figure {
     Line,    // both ends
     Point,   // its centre
@@ -45,7 +46,7 @@ struct Writing {
 // pixels. A curve has tens of thousands of points, so alike figures share their stroke.
 class Strokes {
  public:
-  // So many places take 16 MB. Beyond them nothing is remembered.
+  // So many places take 16 MB. From the next one on nothing is remembered until Clear.
   static constexpr std::size_t MostPlaces = 1 << 20;
 
   void Clear() { *this = Strokes(); }
