@@ -12,7 +12,7 @@ namespace clinorama::browser {
 
 // A document as the pages' host. What the user does lies in a queue of the document until a wait
 // delivers it, nested. What pages change is collected and shown before the browser gets its turn,
-// as nothing could be seen earlier. It holds no rule of the program.
+// in a motion once a frame, as no more could be seen. It holds no rule of the program.
 class BrowserHost final : public forms::Host {
  public:
   double Density() const override;
