@@ -168,12 +168,12 @@ export class PageView {
     const buttons = { PageUp: this.state.pageUp, PageDown: this.state.pageDown };
     const inMenu = this.#bar?.element.contains(/** @type {Node} */ (event.target));
     if (buttons[event.key]) {
-      this.#once(event, EventKind.Click, buttons[event.key]);
+      this.#once(event, () => this.tell(EventKind.Click, buttons[event.key]));
     } else if (
       (event.key === "Escape" && this.state.closedByEscape && !inMenu) ||
       (letter === "w" && event.ctrlKey)
     ) {
-      this.#once(event, EventKind.Close, this.number);
+      this.#once(event, () => this.#close());
     } else if (event.key === "F10" && this.#bar !== null) {
       event.preventDefault();
       this.#bar.open();
@@ -185,13 +185,20 @@ export class PageView {
     }
   }
 
-  /** @param {KeyboardEvent} event @param {number} kind @param {number} number */
-  #once(event, kind, number) {
+  /** @param {KeyboardEvent} event @param {() => void} act */
+  #once(event, act) {
     event.preventDefault();
     event.stopPropagation();
     if (!event.repeat) {
-      this.tell(kind, number);
+      act();
     }
+  }
+
+  #close() {
+    for (const { parts } of this.#controls.values()) {
+      parts.lock?.();
+    }
+    this.tell(EventKind.Close, this.number);
   }
 
   // From the empty ground the tabulator goes on where the keyboard was.
@@ -221,8 +228,9 @@ export class PageView {
     close.textContent = "✕";
     close.ariaLabel = close.title = "Fechar";
     close.tabIndex = -1;
-    close.addEventListener("click", () => this.tell(EventKind.Close, this.number));
+    close.addEventListener("click", () => this.#close());
     header.append(this.#title, close);
+    header.addEventListener("mousedown", (event) => event.preventDefault()); // keeps the keyboard
     let from = { x: 0, y: 0 };
     header.addEventListener("pointerdown", (event) => {
       if (event.button === 0 && event.target !== close) {
