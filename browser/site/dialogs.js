@@ -4,23 +4,25 @@
  * Shows a box, and resolves with the value of the button that the user chose, or "".
  * @param {string} title
  * @param {(Node | string)[]} content
- * @param {[text: string, value: string][]} buttons the first is chosen by the return key
+ * @param {[text: string, value: string][]} buttons the first is chosen by the return key anywhere
  * @returns {Promise<string>}
  */
 function ask(title, content, buttons) {
   const dialog = document.createElement("dialog");
-  const heading = dialog.appendChild(document.createElement("h2"));
+  const form = dialog.appendChild(document.createElement("form"));
+  form.method = "dialog";
+  const heading = form.appendChild(document.createElement("h2"));
   heading.textContent = title;
   heading.id = "title-of-box";
   dialog.setAttribute("aria-labelledby", heading.id);
-  dialog.append(...content);
-  const row = dialog.appendChild(document.createElement("div"));
+  form.append(...content);
+  const row = form.appendChild(document.createElement("div"));
   row.className = "buttons";
   for (const [text, value] of buttons) {
     const button = row.appendChild(document.createElement("button"));
     button.textContent = text;
+    button.value = value;
     button.autofocus = value === buttons[0][1];
-    button.addEventListener("click", () => dialog.close(value));
   }
   return new Promise((resolve) => {
     dialog.addEventListener("close", () => {
@@ -79,6 +81,7 @@ export async function chooseColor(now) {
   basic.ariaLabel = "Cores básicas";
   for (const each of basicColors()) {
     const button = basic.appendChild(document.createElement("button"));
+    button.type = "button";
     button.style.background = inHex(each);
     button.ariaLabel = button.title = inWords(each);
     button.addEventListener("click", () => set(each));
