@@ -51,18 +51,19 @@ void BrowserHost::Shown(forms::Page& page) {
   if (numbers_.Of(&page) == 0) {
     numbers_.Add(page);
     document::CreatePage(DescriptionOfAll(page, numbers_));
-    ShowSurfaces(page);
+    FitSurfaces(page);
   }
   document::ShowPage(numbers_.Of(&page));
 }
 
-// What was drawn before the document knew of the page.
-void BrowserHost::ShowSurfaces(forms::Control& container) {
+// Shows all of them, as what was drawn before the document knew of the page was not shown.
+void BrowserHost::FitSurfaces(forms::Control& container) {
   for (forms::Control* child : container.Children()) {
     if (auto* picture = dynamic_cast<forms::PictureBox*>(child)) {
+      picture->Density(Density());
       Drawn(*picture);
     }
-    ShowSurfaces(*child);
+    FitSurfaces(*child);
   }
 }
 
@@ -156,7 +157,9 @@ void BrowserHost::Deliver(const document::Event& event) {
   }
   // The document shows already what the user did; the control may see it otherwise.
   changed_.insert(event.Number);
-  if (event.Kind == document::EventKind::Activate) {
+  if (event.Kind == document::EventKind::Fit) {
+    FitSurfaces(*control);
+  } else if (event.Kind == document::EventKind::Activate) {
     forms::Application::Current().BecameActive(control->OwnerPage());
   } else if (event.Kind == document::EventKind::Close) {
     forms::Page& page = control->OwnerPage();

@@ -34,7 +34,7 @@ class BrowserHost final : public forms::Host {
   [[noreturn]] void Run();
 
  private:
-  void ShowSurfaces(forms::Control& container);
+  void FitSurfaces(forms::Control& container);
   void ShowChanges();
   void DeliverEvents();
   void Deliver(const document::Event& event);

@@ -2,6 +2,7 @@
 
 #include <emscripten.h>
 
+#include <bit>
 #include <cstdlib>
 #include <vector>
 
@@ -68,7 +69,7 @@ void Put(int number, const forms::Raster& raster, const forms::PixelRect& rect) 
     const std::uint32_t* row = raster.Data() + static_cast<std::ptrdiff_t>(y) * raster.Width();
     for (int x = rect.X; x < rect.X + rect.Width; ++x) {
       const std::uint32_t pixel = row[x];
-      *to++ = Opaque | (pixel & 0xFF) << 16 | (pixel & 0xFF00) | (pixel >> 16 & 0xFF);
+      *to++ = Opaque | (std::rotl(pixel, 16) & 0x00FF00FF) | (pixel & 0x0000FF00);
     }
   }
   js_put(number, pixels.data(), rect.X, rect.Y, rect.Width, rect.Height, raster.Width(),

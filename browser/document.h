@@ -23,6 +23,7 @@ enum class EventKind {
   Hold = 4,
   Close = 5,
   Activate = 6,
+  Fit = 7,  // the pages have another size, and the number is that of one of them
 };
 
 struct Event {

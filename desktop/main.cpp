@@ -49,10 +49,19 @@ void GiveMemoryBack() {
 #endif
 }
 
+// Pages have their places on the screen, and are as large as the panels there leave room for. A
+// Wayland compositor tells a program of neither; the X server beside it does.
+void PreferX() {
+  if (qEnvironmentVariableIsSet("DISPLAY") && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
+    qputenv("QT_QPA_PLATFORM", "xcb;wayland");
+  }
+}
+
 }  // namespace
 
 int main(int argc, char* argv[]) {
   GiveMemoryBack();
+  PreferX();
   qInstallMessageHandler(TellOfTheDisplay);
   clinorama::desktop::Program qt(argc, argv);
   QApplication::setApplicationVersion(QString::fromLatin1(clinorama::Version));

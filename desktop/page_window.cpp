@@ -78,6 +78,11 @@ Fit PageWindow::FitTo(const QScreen& screen) {
 
 void PageWindow::FitOnce(const QScreen& screen) {
   const Fit fit = FitTo(screen);
+  for (const auto& [control, view] : views_) {
+    if (auto* picture = dynamic_cast<forms::PictureBox*>(control)) {
+      picture->Density(fit.Zoom * screen.devicePixelRatio());
+    }
+  }
   if (fit.Zoom == zoom_ && &screen == this->screen()) {
     return;
   }

@@ -8,8 +8,8 @@ class PictureBox;
 
 namespace clinorama::desktop {
 
-// Shows the screen picture of a surface, pixel by pixel as a rule; scaled where the page has come
-// to another screen than the one it was made for.
+// Shows the screen picture of a surface, pixel by pixel. Only one that was too long to be
+// remembered is scaled when its page comes to another screen.
 class SurfaceView : public QWidget {
  public:
   SurfaceView(forms::PictureBox& picture, QWidget* parent);

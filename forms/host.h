@@ -26,7 +26,8 @@ class Host {
   Host(const Host&) = delete;
   Host& operator=(const Host&) = delete;
 
-  // Device pixels to a logical pixel, read when a page is created.
+  // Device pixels to a logical pixel, read when a page is created. Where it changes later, the host
+  // tells the surfaces.
   virtual double Density() const = 0;
 
   // Build the page's window, or raise it, and give it the keyboard.

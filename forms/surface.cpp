@@ -38,9 +38,24 @@ Surface::Surface(double width, double height, double density)
 void Surface::Resize(double width, double height) {
   width_ = width;
   height_ = height;
-  screen_ = Raster(RasterSize(width, density_), RasterSize(height, density_), backColor_);
+  strokes_.Clear();
+  MakePictures();
+}
+
+void Surface::MakePictures() {
+  screen_ = Raster(RasterSize(width_, density_), RasterSize(height_, density_), backColor_);
   kept_ = screen_;
   Touch(screen_.Bounds());
+}
+
+void Surface::Density(double density) {
+  if (density == density_ || !strokes_.Complete()) {
+    return;
+  }
+  density_ = density;
+  MakePictures();
+  strokes_.ForEach(
+      [this](const auto& stroke, auto places, auto* writing) { Paint(stroke, places, writing); });
 }
 
 void Surface::BackColor(Color color) {
@@ -59,17 +74,13 @@ void Surface::ScaleInPixels() {
   Scale(0, 0, std::round(width_ / TwipsToPixel), std::round(height_ / TwipsToPixel));
 }
 
-double Surface::DeviceX(double x) const {
-  return (Reduced(x) - scaleX1_) / ScaleWidth() * screen_.Width();
-}
+double Surface::ShareOfWidth(double x) const { return (Reduced(x) - scaleX1_) / ScaleWidth(); }
 
-double Surface::DeviceY(double y) const {
-  return (Reduced(y) - scaleY1_) / ScaleHeight() * screen_.Height();
-}
+double Surface::ShareOfHeight(double y) const { return (Reduced(y) - scaleY1_) / ScaleHeight(); }
 
-double Surface::LogicalX(double x) const { return DeviceX(x) / density_; }
+double Surface::LogicalX(double x) const { return ShareOfWidth(x) * screen_.Width() / density_; }
 
-double Surface::LogicalY(double y) const { return DeviceY(y) / density_; }
+double Surface::LogicalY(double y) const { return ShareOfHeight(y) * screen_.Height() / density_; }
 
 // Rounded up, so that nothing gets thinner in proportion than it is at a density of 1.
 int Surface::DevicePixels(double logical) const {
@@ -78,6 +89,7 @@ int Surface::DevicePixels(double logical) const {
 }
 
 void Surface::ClearPicture() {
+  strokes_.Clear();
   kept_.Fill(backColor_);
   screen_.Fill(backColor_);
   Touch(screen_.Bounds());
@@ -98,13 +110,15 @@ void Surface::Cls() {
 }
 
 void Surface::Restore() {
+  strokes_.DropPassing();
   screen_ = kept_;
   Touch(screen_.Bounds());
 }
 
 void Surface::Line(double x1, double y1, double x2, double y2, std::optional<Color> color) {
   const Color pen = color.value_or(ForeColor);
-  PaintLine(DeviceX(x1), DeviceY(y1), DeviceX(x2), DeviceY(y2), pen);
+  const Place ends[] = {PlaceOf(x1, y1), PlaceOf(x2, y2)};
+  Draw(Stroke::Figure::Line, pen, ends);
   if (Observer) {
     Tell(
         {.What = DrawingOperation::Kind::Line, .X1 = x1, .Y1 = y1, .X2 = x2, .Y2 = y2, .Pen = pen});
@@ -113,80 +127,16 @@ void Surface::Line(double x1, double y1, double x2, double y2, std::optional<Col
 
 void Surface::PSet(double x, double y, std::optional<Color> color) {
   const Color pen = color.value_or(ForeColor);
-  PaintDot(DeviceX(x), DeviceY(y), DevicePixels(DrawWidth), pen);
+  const Place centre[] = {PlaceOf(x, y)};
+  Draw(Stroke::Figure::Point, pen, centre);
   if (Observer) {
     Tell({.What = DrawingOperation::Kind::Point, .X1 = x, .Y1 = y, .Pen = pen});
   }
 }
 
-// A line goes along its longer direction: in each column (or row) of pixels it covers one run of
-// pen pixels about its height there, so that no pixel is touched twice and the same call undoes
-// an inversion exactly. Only columns of the raster are walked.
-void Surface::PaintLine(double x1, double y1, double x2, double y2, Color pen) {
-  const bool steep = std::abs(y2 - y1) > std::abs(x2 - x1);
-  const int width = DevicePixels(DrawWidth);
-  const PixelLine line =
-      steep ? PixelLine(y1, x1, y2, x2, width) : PixelLine(x1, y1, x2, y2, width);
-  const double overhang = (width - 1) / 2.0;
-  const int first = PixelOf(line.Left() - overhang);
-  const int last = PixelOf(line.Right() + overhang);
-  const int period = DevicePixels(DotLength);
-  const bool dotted = DrawStyle != Solid && DrawWidth == 1;
-
-  const int columns = steep ? screen_.Height() : screen_.Width();
-  for (int i = std::max(first, 0); i <= std::min(last, columns - 1); ++i) {
-    if (dotted && std::abs(i - line.Start()) / period % 2 != 0) {
-      continue;
-    }
-    const auto [top, run] = line.In(i);
-    if (run == 1) {
-      steep ? PaintPixel(top, i, pen) : PaintPixel(i, top, pen);
-    } else {
-      Paint(steep ? PixelRect{top, i, run, 1} : PixelRect{i, top, 1, run}, pen);
-    }
-  }
-}
-
-void Surface::PaintDot(double x, double y, int size, Color pen) {
-  const int left = FirstPixel(x, size);
-  const int top = FirstPixel(y, size);
-  if (size == 1) {
-    PaintPixel(left, top, pen);
-    return;
-  }
-  if (size <= 3) {  // the smallest dots are squares
-    Paint({left, top, size, size}, pen);
-    return;
-  }
-  const double centre = (size - 1) / 2.0;
-  const double radius = size / 2.0;
-  for (int row = 0; row < size; ++row) {
-    const double height = row - centre;
-    const double half = std::sqrt(radius * radius - height * height);
-    const int from = static_cast<int>(std::ceil(centre - half));
-    const int to = static_cast<int>(std::floor(centre + half));
-    Paint({left + from, top + row, to - from + 1, 1}, pen);
-  }
-}
-
-// All pixels whose centres lie within half a pen of the circle.
 void Surface::Circle(double x, double y, double radius) {
-  const double centreX = DeviceX(x);
-  const double centreY = DeviceY(y);
-  const double deviceRadius = std::abs(DeviceX(x + radius) - centreX);
-  const double half = DevicePixels(DrawWidth) / 2.0;
-  const int reach = PixelOf(deviceRadius + half) + 1;
-  const PixelRect box = Intersection(
-      {PixelOf(centreX) - reach, PixelOf(centreY) - reach, 2 * reach + 1, 2 * reach + 1},
-      screen_.Bounds());
-  for (int row = box.Y; row < box.Y + box.Height; ++row) {
-    for (int column = box.X; column < box.X + box.Width; ++column) {
-      const double distance = std::hypot(column + 0.5 - centreX, row + 0.5 - centreY);
-      if (std::abs(distance - deviceRadius) <= half) {
-        Paint({column, row, 1, 1}, ForeColor);
-      }
-    }
-  }
+  const Place places[] = {PlaceOf(x, y), PlaceOf(x + radius, y)};
+  Draw(Stroke::Figure::Circle, ForeColor, places);
   if (Observer) {
     Tell(
         {.What = DrawingOperation::Kind::Circle, .X1 = x, .Y1 = y, .X2 = radius, .Pen = ForeColor});
@@ -194,7 +144,9 @@ void Surface::Circle(double x, double y, double radius) {
 }
 
 void Surface::Print(const std::string& text) {
-  PaintLetters(VisibleText(Font, text));
+  const Place corner[] = {PlaceOf(CurrentX, CurrentY)};
+  const Writing writing{VisibleText(Font, text), Font};
+  Draw(Stroke::Figure::Text, ForeColor, corner, &writing);
   if (Observer) {
     Tell({.What = DrawingOperation::Kind::Text,
           .X1 = CurrentX,
@@ -210,12 +162,107 @@ void Surface::PrintAt(double x, double y, const std::string& text) {
   Print(text);
 }
 
+// Paints a figure with the pen as it is now, and remembers it.
+void Surface::Draw(Stroke::Figure figure, Color pen, std::span<const Place> places,
+                   const Writing* writing) {
+  const Stroke stroke{figure, pen, DrawMode, DrawStyle, DrawWidth, AutoRedraw};
+  Paint(stroke, places, writing);
+  strokes_.Add(stroke, places, writing);
+}
+
+void Surface::Paint(const Stroke& stroke, std::span<const Place> places, const Writing* writing) {
+  switch (stroke.What) {
+    case Stroke::Figure::Line:
+      return PaintLine(stroke, places[0], places[1]);
+    case Stroke::Figure::Point:
+      return PaintDot(stroke, places[0]);
+    case Stroke::Figure::Circle:
+      return PaintCircle(stroke, places[0], places[1]);
+    case Stroke::Figure::Text:
+      return PaintLetters(stroke, places[0], *writing);
+  }
+}
+
+// A line goes along its longer direction: in each column (or row) of pixels it covers one run of
+// pen pixels about its height there, so that no pixel is touched twice and the same call undoes
+// an inversion exactly. Only columns of the raster are walked.
+void Surface::PaintLine(const Stroke& stroke, const Place& from, const Place& to) {
+  const double x1 = DeviceX(from);
+  const double y1 = DeviceY(from);
+  const double x2 = DeviceX(to);
+  const double y2 = DeviceY(to);
+  const bool steep = std::abs(y2 - y1) > std::abs(x2 - x1);
+  const int width = DevicePixels(stroke.DrawWidth);
+  const PixelLine line =
+      steep ? PixelLine(y1, x1, y2, x2, width) : PixelLine(x1, y1, x2, y2, width);
+  const double overhang = (width - 1) / 2.0;
+  const int first = PixelOf(line.Left() - overhang);
+  const int last = PixelOf(line.Right() + overhang);
+  const int period = DevicePixels(DotLength);
+  const bool dotted = stroke.DrawStyle != Solid && stroke.DrawWidth == 1;
+
+  const int columns = steep ? screen_.Height() : screen_.Width();
+  for (int i = std::max(first, 0); i <= std::min(last, columns - 1); ++i) {
+    if (dotted && std::abs(i - line.Start()) / period % 2 != 0) {
+      continue;
+    }
+    const auto [top, run] = line.In(i);
+    if (run == 1) {
+      steep ? PaintPixel(stroke, top, i) : PaintPixel(stroke, i, top);
+    } else {
+      PaintRect(stroke, steep ? PixelRect{top, i, run, 1} : PixelRect{i, top, 1, run});
+    }
+  }
+}
+
+void Surface::PaintDot(const Stroke& stroke, const Place& centre) {
+  const int size = DevicePixels(stroke.DrawWidth);
+  const int left = FirstPixel(DeviceX(centre), size);
+  const int top = FirstPixel(DeviceY(centre), size);
+  if (size == 1) {
+    PaintPixel(stroke, left, top);
+    return;
+  }
+  if (size <= 3) {  // the smallest dots are squares
+    PaintRect(stroke, {left, top, size, size});
+    return;
+  }
+  const double middle = (size - 1) / 2.0;
+  const double radius = size / 2.0;
+  for (int row = 0; row < size; ++row) {
+    const double height = row - middle;
+    const double half = std::sqrt(radius * radius - height * height);
+    const int from = static_cast<int>(std::ceil(middle - half));
+    const int to = static_cast<int>(std::floor(middle + half));
+    PaintRect(stroke, {left + from, top + row, to - from + 1, 1});
+  }
+}
+
+// All pixels whose centres lie within half a pen of the circle.
+void Surface::PaintCircle(const Stroke& stroke, const Place& centre, const Place& right) {
+  const double x = DeviceX(centre);
+  const double y = DeviceY(centre);
+  const double radius = std::abs(DeviceX(right) - x);
+  const double half = DevicePixels(stroke.DrawWidth) / 2.0;
+  const int reach = PixelOf(radius + half) + 1;
+  const PixelRect box = Intersection(
+      {PixelOf(x) - reach, PixelOf(y) - reach, 2 * reach + 1, 2 * reach + 1}, screen_.Bounds());
+  for (int row = box.Y; row < box.Y + box.Height; ++row) {
+    for (int column = box.X; column < box.X + box.Width; ++column) {
+      if (std::abs(std::hypot(column + 0.5 - x, row + 0.5 - y) - radius) <= half) {
+        PaintPixel(stroke, column, row);
+      }
+    }
+  }
+}
+
 // The host paints the letters once, on a stencil around the text's corner; no letter is wider than
 // two heights of its font, and no line is higher. A text wholly outside is not painted.
-void Surface::PaintLetters(const std::string& text) {
-  const int height = DevicePixels(Font.Size * PixelsToPoint);
-  const PixelRect box = {NearestPixel(DeviceX(CurrentX)) - height,
-                         NearestPixel(DeviceY(CurrentY)) - height,
+void Surface::PaintLetters(const Stroke& stroke, const Place& corner, const Writing& writing) {
+  const auto& [text, font] = writing;
+  const int height = DevicePixels(font.Size * PixelsToPoint);
+  const PixelRect box = {NearestPixel(DeviceX(corner)) - height,
+                         NearestPixel(DeviceY(corner)) - height,
                          (2 * static_cast<int>(text.size()) + 2) * height, 4 * height};
   const PixelRect inside = Intersection(box, screen_.Bounds());
   if (inside.Empty()) {
@@ -224,32 +271,32 @@ void Surface::PaintLetters(const std::string& text) {
   Raster stencil(box.Width, box.Height, White);
   PaintText(
       stencil,
-      {.X = height, .Y = height, .Density = density_, .Text = text, .Font = Font, .Ink = Black});
-  screen_.Stamp(stencil, box.X, box.Y, ForeColor, backColor_);
-  if (AutoRedraw) {
-    kept_.Stamp(stencil, box.X, box.Y, ForeColor, backColor_);
+      {.X = height, .Y = height, .Density = density_, .Text = text, .Font = font, .Ink = Black});
+  screen_.Stamp(stencil, box.X, box.Y, stroke.Pen, backColor_);
+  if (stroke.Kept) {
+    kept_.Stamp(stencil, box.X, box.Y, stroke.Pen, backColor_);
   }
   Touch(inside);
 }
 
 // Nearly every drawing is of single pixels or of very few, so each is looked at alone, and nothing
 // is told about one that lies where the screen has changed already.
-void Surface::Paint(const PixelRect& rect, Color pen) {
+void Surface::PaintRect(const Stroke& stroke, const PixelRect& rect) {
   for (int y = rect.Y; y < rect.Y + rect.Height; ++y) {
     for (int x = rect.X; x < rect.X + rect.Width; ++x) {
-      PaintPixel(x, y, pen);
+      PaintPixel(stroke, x, y);
     }
   }
 }
 
-void Surface::PaintPixel(int x, int y, Color pen) {
+void Surface::PaintPixel(const Stroke& stroke, int x, int y) {
   if (!Holds(screen_.Bounds(), x, y)) {
     return;
   }
-  const auto operation = static_cast<RasterOperation>(DrawMode);
-  screen_.Apply(x, y, pen, operation);
-  if (AutoRedraw) {
-    kept_.Apply(x, y, pen, operation);
+  const auto operation = static_cast<RasterOperation>(stroke.DrawMode);
+  screen_.Apply(x, y, stroke.Pen, operation);
+  if (stroke.Kept) {
+    kept_.Apply(x, y, stroke.Pen, operation);
   }
   if (!Holds(dirty_, x, y)) {
     Touch({x, y, 1, 1});

@@ -2,11 +2,13 @@
 
 #include <functional>
 #include <optional>
+#include <span>
 #include <string>
 
 #include "forms/color.h"
 #include "forms/font.h"
 #include "forms/raster.h"
+#include "forms/strokes.h"
 
 namespace clinorama::forms {
 
@@ -110,6 +112,10 @@ class Surface {
   const Raster& Screen() const { return screen_; }
   const Raster& Kept() const { return kept_; }
   double Density() const { return density_; }
+  // Paints both pictures anew with so many device pixels to a logical one, above 0. They become
+  // what they would be had it always been so. Where too much was drawn to be remembered, the
+  // density stays as it is until the surface is wiped.
+  void Density(double density);
   // The device pixels of the screen that have changed since the last call.
   PixelRect TakeDirty();
 
@@ -127,14 +133,22 @@ class Surface {
   virtual void PaintText(Raster& /*raster*/, const TextRun& /*run*/) {}
 
  private:
-  double DeviceX(double x) const;
-  double DeviceY(double y) const;
+  double ShareOfWidth(double x) const;
+  double ShareOfHeight(double y) const;
+  Place PlaceOf(double x, double y) const { return {ShareOfWidth(x), ShareOfHeight(y)}; }
+  double DeviceX(const Place& place) const { return place.X * screen_.Width(); }
+  double DeviceY(const Place& place) const { return place.Y * screen_.Height(); }
   int DevicePixels(double logical) const;
-  void PaintPixel(int x, int y, Color pen);
-  void Paint(const PixelRect& rect, Color pen);
-  void PaintDot(double x, double y, int size, Color pen);
-  void PaintLine(double x1, double y1, double x2, double y2, Color pen);
-  void PaintLetters(const std::string& text);
+  void MakePictures();
+  void Draw(Stroke::Figure figure, Color pen, std::span<const Place> places,
+            const Writing* writing = nullptr);
+  void Paint(const Stroke& stroke, std::span<const Place> places, const Writing* writing);
+  void PaintLine(const Stroke& stroke, const Place& from, const Place& to);
+  void PaintDot(const Stroke& stroke, const Place& centre);
+  void PaintCircle(const Stroke& stroke, const Place& centre, const Place& right);
+  void PaintLetters(const Stroke& stroke, const Place& corner, const Writing& writing);
+  void PaintRect(const Stroke& stroke, const PixelRect& rect);
+  void PaintPixel(const Stroke& stroke, int x, int y);
   void Touch(const PixelRect& rect);
   void Tell(DrawingOperation operation) const;  // asks for an Observer
 
@@ -148,6 +162,7 @@ class Surface {
   Color backColor_ = White;
   Raster kept_;
   Raster screen_;
+  Strokes strokes_;
   PixelRect dirty_;
 };
 

@@ -10,6 +10,7 @@ export const EventKind = {
   Hold: 4,
   Close: 5,
   Activate: 6,
+  Fit: 7,
 };
 
 export class Queue {

@@ -10,6 +10,7 @@ import { Screen } from "./screen.js";
 
 // News are told together: one is lost when another follows at once.
 const MillisecondsToAnnounce = 100;
+const MillisecondsToRest = 150;
 
 export class View {
   queue = new Queue();
@@ -31,9 +32,15 @@ export class View {
   paintText = paintText;
 
   constructor() {
+    let resting = 0;
     const fit = () => {
       this.screen.fit();
       this.#pages.forEach((page) => page.fit());
+      // Surfaces are scaled until the size rests, as painting them anew takes time.
+      clearTimeout(resting);
+      resting = setTimeout(() => {
+        this.#pages.forEach((page) => page.tell(EventKind.Fit, page.number));
+      }, MillisecondsToRest);
     };
     addEventListener("resize", fit);
     fit();

@@ -237,6 +237,10 @@ test("a page fits the window in the middle of a motion", async () => {
   assert.ok(page.x >= 0 && page.width <= 768, "the page is cut off");
   assert.ok(page.width > 700, "the page is small");
   assert.equal(await control("Form12", "Função1").inputValue(), "x*(1-cos(x))/2");
+  // As many pixels as the screen has there, when the size has come to rest.
+  const picture = control("Form12", "Picture1");
+  const width = Math.round((await picture.boundingBox()).width);
+  await picture.locator(`canvas[width="${width}"]`).waitFor();
 });
 
 test("keys and presses do what they do on the desktop", async () => {

@@ -4,7 +4,9 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <limits>
 #include <string>
 #include <tuple>
@@ -45,6 +47,11 @@ std::string Seen(const Raster& raster) {
     }
   }
   return text;
+}
+
+bool Alike(const Raster& a, const Raster& b) {
+  return a.Width() == b.Width() && std::equal(a.Data(), a.Data() + a.Width() * a.Height(), b.Data(),
+                                              b.Data() + b.Width() * b.Height());
 }
 
 TEST(Surface, PaintsLinesWithBothTheirEnds) {
@@ -296,6 +303,101 @@ TEST(Surface, KeepsATextAsADrawingAndClipsIt) {
   surface.PrintAt(3, 0, "a");
   surface.PrintAt(1e30, -1e30, "a");
   EXPECT_EQ(surface.Painted, 3) << "a text far away is not painted";
+}
+
+// Its letters are blocks of their size.
+struct BlockSurface : PixelSurface {
+  explicit BlockSurface(double density) : PixelSurface(40, 30, density) {}
+  void PaintText(Raster& raster, const forms::TextRun& run) override {
+    const int size = static_cast<int>(run.Font.Size * run.Density);
+    for (int i = 0; i < size * size * static_cast<int>(run.Text.size()); ++i) {
+      raster.Apply(run.X + i / size, run.Y + i % size, run.Ink, forms::RasterOperation::Copy);
+    }
+  }
+};
+
+TEST(Surface, LooksAtAnotherDensityAsIfItHadAlwaysBeenThere) {
+  const auto blueLine = [](Surface& surface) { surface.Line(-9, 3, 8, -7, forms::Blue); };
+  const std::vector<std::function<void(Surface&)>> steps = {
+      [](Surface& surface) { surface.BackColor(forms::QBColor(14)); },
+      [](Surface& surface) { surface.AutoRedraw = true; },
+      [](Surface& surface) { surface.PSet(3, 3); },
+      [](Surface& surface) { surface.Resize(600, 450); },
+      [](Surface& surface) { surface.Scale(-10, 10, 10, -10); },
+      [](Surface& surface) {
+        for (double x = -9; x < 9; x += 0.01) {
+          surface.PSet(x, x * x / 8 - 5, forms::Red);
+        }
+      },
+      [](Surface& surface) { surface.DrawStyle = Dotted; },
+      [](Surface& surface) { surface.Line(-10, 0, 10, 1); },
+      [](Surface& surface) { surface.PrintAt(-4, 4, "ab"); },
+      [](Surface& surface) { surface.AutoRedraw = false; },
+      [](Surface& surface) { surface.Font.Size = 3; },
+      [](Surface& surface) { surface.PrintAt(6, 2, "c"); },
+      [](Surface& surface) { surface.Cls(); },
+      [](Surface& surface) { surface.AutoRedraw = true; },
+      [](Surface& surface) { surface.PrintAt(-2, -3, "d"); },
+      [](Surface& surface) { surface.DrawMode = forms::NotMergePen; },
+      blueLine,
+      [](Surface& surface) { surface.DrawMode = forms::InvertPixel; },
+      blueLine,
+      [](Surface& surface) { surface.DrawMode = forms::NotMergePen; },
+      [](Surface& surface) { surface.Line(-3, 9, 9, 5); },
+      [](Surface& surface) { surface.DrawMode = forms::InvertPixel; },
+      [](Surface& surface) { surface.Line(-3, 9, 9, 4); },
+      [](Surface& surface) { surface.Scale(0, 0, 40, 30); },
+      [](Surface& surface) { surface.DrawMode = forms::CopyPen; },
+      [](Surface& surface) { surface.DrawWidth = 2; },
+      [](Surface& surface) { surface.Circle(20, 12, 9.5); },
+      [](Surface& surface) { surface.AutoRedraw = false; },
+      [](Surface& surface) { surface.PSet(33, 7); },
+  };
+  const std::pair<double, double> changes[] = {{1, 1.41}, {2.81, 0.94}, {1.5, 2}};
+  for (const auto& [from, to] : changes) {
+    for (std::size_t change = 0; change <= steps.size(); ++change) {
+      BlockSurface changed(from);
+      BlockSurface other(to);
+      for (std::size_t i = 0; i <= steps.size(); ++i) {
+        if (i == change) {
+          changed.TakeDirty();
+          changed.Density(to);
+          EXPECT_EQ(changed.TakeDirty().Width, other.Screen().Width());
+        }
+        if (i < steps.size()) {
+          steps[i](changed);
+          steps[i](other);
+        }
+      }
+      EXPECT_TRUE(Alike(changed.Screen(), other.Screen())) << from << ", " << change;
+      EXPECT_TRUE(Alike(changed.Kept(), other.Kept())) << from << ", " << change;
+    }
+  }
+}
+
+TEST(Surface, KeepsItsDensityWhereTooMuchWasDrawn) {
+  PixelSurface surface(4, 1);
+  surface.PSet(1.5, 0.5);
+  for (std::size_t i = 0; i < forms::Strokes::MostPlaces / 4; ++i) {
+    forms::ShowInPassing(
+        surface, [&] { surface.Line(0, 0, 3, 0); }, [] {});
+  }
+  surface.Density(2);
+  EXPECT_EQ(Seen(surface.Screen()), "..##.... ..##....")
+      << "a black line in passing leaves nothing";
+  for (std::size_t i = 0; i < forms::Strokes::MostPlaces; ++i) {
+    surface.PSet(0, 0);
+  }
+  surface.Density(1);
+  surface.Restore();
+  EXPECT_EQ(surface.Density(), 2);
+  surface.Cls();
+  surface.Density(1);
+  EXPECT_EQ(surface.Density(), 2) << "nothing was wiped";
+  surface.ClearPicture();
+  surface.PSet(3.5, 0.5);
+  surface.Density(1);
+  EXPECT_EQ(Seen(surface.Screen()), "...#");
 }
 
 TEST(Surface, TellsWhichPixelsChangedAndWhatWasDrawn) {
