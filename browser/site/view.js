@@ -43,6 +43,8 @@ export class View {
       }, MillisecondsToRest);
     };
     addEventListener("resize", fit);
+    // A graphics card may lose what it holds, as in a sleep.
+    this.#stage.addEventListener("contextrestored", fit, true);
     fit();
     // A press beside all pages leaves the keyboard where it is.
     addEventListener("mousedown", (event) => {
