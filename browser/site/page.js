@@ -151,13 +151,6 @@ export class PageView {
         }
       }
     });
-    // A click beside the controls leaves the keyboard where it is.
-    this.section.addEventListener("mousedown", (event) => {
-      const target = /** @type {Element} */ (event.target);
-      if (target.closest("input, button, label, [tabindex='0']") === null) {
-        event.preventDefault();
-      }
-    });
     this.section.addEventListener("keydown", (event) => this.#key(event), true);
   }
 
@@ -230,7 +223,6 @@ export class PageView {
     close.tabIndex = -1;
     close.addEventListener("click", () => this.#close());
     header.append(this.#title, close);
-    header.addEventListener("mousedown", (event) => event.preventDefault()); // keeps the keyboard
     let from = { x: 0, y: 0 };
     header.addEventListener("pointerdown", (event) => {
       if (event.button === 0 && event.target !== close) {
