@@ -159,15 +159,16 @@ export class PageView {
     const letter = event.key.toLowerCase();
     /** @type {Record<string, number>} */
     const buttons = { PageUp: this.state.pageUp, PageDown: this.state.pageDown };
+    const alone = !event.ctrlKey && !event.altKey && !event.shiftKey && !event.metaKey;
     const inMenu = this.#bar?.element.contains(/** @type {Node} */ (event.target));
-    if (buttons[event.key]) {
+    if (alone && buttons[event.key]) {
       this.#once(event, () => this.tell(EventKind.Click, buttons[event.key]));
     } else if (
-      (event.key === "Escape" && this.state.closedByEscape && !inMenu) ||
+      (alone && event.key === "Escape" && this.state.closedByEscape && !inMenu) ||
       (letter === "w" && event.ctrlKey)
     ) {
       this.#once(event, () => this.#close());
-    } else if (event.key === "F10" && this.#bar !== null) {
+    } else if (alone && event.key === "F10" && this.#bar !== null) {
       event.preventDefault();
       this.#bar.open();
     } else if (event.altKey && !event.ctrlKey && this.#bar?.press(letter)) {
