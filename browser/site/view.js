@@ -46,14 +46,13 @@ export class View {
     // A graphics card may lose what it holds, as in a sleep.
     this.#stage.addEventListener("contextrestored", fit, true);
     fit();
-    // A press beside the controls leaves the keyboard where it is, or brings it back to the page.
+    // A press beside the controls leaves the keyboard where it is, or brings it back to the page from
+    // a menu or from the browser.
     addEventListener("mousedown", (event) => {
       const target = /** @type {Element} */ (event.target);
       if (target.closest(":not(header) > button, input, label, [tabindex='0']") === null) {
         event.preventDefault();
-        if (document.activeElement === document.body) {
-          this.top?.takeKeyboard();
-        }
+        this.top?.takeKeyboard();
       }
     });
     this.#stage.addEventListener("pointerdown", (event) => this.#pressBehind(event));
