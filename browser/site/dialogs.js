@@ -4,26 +4,29 @@
  * Shows a box, and resolves with the value of the button that the user chose, or "".
  * @param {string} title
  * @param {(Node | string)[]} content
- * @param {[text: string, value: string][]} buttons the first is chosen by the return key anywhere
+ * @param {[text: string, value: string][]} buttons the first is what the return key chooses
  * @returns {Promise<string>}
  */
 function ask(title, content, buttons) {
   const dialog = document.createElement("dialog");
-  const form = dialog.appendChild(document.createElement("form"));
-  form.method = "dialog";
-  const heading = form.appendChild(document.createElement("h2"));
+  const heading = dialog.appendChild(document.createElement("h2"));
   heading.textContent = title;
   heading.id = "title-of-box";
   dialog.setAttribute("aria-labelledby", heading.id);
-  form.append(...content);
-  const row = form.appendChild(document.createElement("div"));
+  dialog.append(...content);
+  const row = dialog.appendChild(document.createElement("div"));
   row.className = "buttons";
   for (const [text, value] of buttons) {
     const button = row.appendChild(document.createElement("button"));
     button.textContent = text;
-    button.value = value;
     button.autofocus = value === buttons[0][1];
+    button.addEventListener("click", () => dialog.close(value));
   }
+  dialog.addEventListener("keydown", ({ key, target }) => {
+    if (key === "Enter" && target instanceof HTMLInputElement) {
+      dialog.close(buttons[0][1]);
+    }
+  });
   return new Promise((resolve) => {
     dialog.addEventListener("close", () => {
       dialog.remove();
@@ -81,7 +84,6 @@ export async function chooseColor(now) {
   basic.ariaLabel = "Cores básicas";
   for (const each of basicColors()) {
     const button = basic.appendChild(document.createElement("button"));
-    button.type = "button";
     button.style.background = inHex(each);
     button.ariaLabel = button.title = inWords(each);
     button.addEventListener("click", () => set(each));
