@@ -22,8 +22,9 @@ function ask(title, content, buttons) {
     button.autofocus = value === buttons[0][1];
     button.addEventListener("click", () => dialog.close(value));
   }
-  dialog.addEventListener("keydown", ({ key, target }) => {
-    if (key === "Enter" && target instanceof HTMLInputElement) {
+  dialog.addEventListener("keydown", (event) => {
+    if (event.key === "Enter" && event.target instanceof HTMLInputElement) {
+      event.preventDefault(); // or else what gets the keyboard now takes it
       dialog.close(buttons[0][1]);
     }
   });
