@@ -151,12 +151,18 @@ export class PageView {
         }
       }
     });
-    // A click beside the controls leaves the keyboard where it is.
+    // A click beside the controls leaves the keyboard where it is, or takes it back from a menu.
     this.section.addEventListener("mousedown", (event) => {
       const target = /** @type {Element} */ (event.target);
       if (target.closest("input, button, label, [tabindex='0']") === null) {
         event.preventDefault();
+        this.takeKeyboard();
       }
+    });
+    // Safari gives no keyboard to what is pressed.
+    this.#client.addEventListener("click", (event) => {
+      const target = /** @type {Element} */ (event.target);
+      /** @type {HTMLElement | null} */ (target.closest(Tabbable))?.focus();
     });
     this.section.addEventListener("keydown", (event) => this.#key(event), true);
   }
@@ -225,7 +231,7 @@ export class PageView {
     header.append(this.#title, close);
     let from = { x: 0, y: 0 };
     header.addEventListener("pointerdown", (event) => {
-      if (event.button === 0 && event.target !== close) {
+      if (event.isPrimary && event.button === 0 && event.target !== close) {
         header.setPointerCapture(event.pointerId);
         from = { x: event.clientX, y: event.clientY };
       }

@@ -35,9 +35,17 @@ export class View {
     };
     addEventListener("resize", fit);
     fit();
-    // A press beside all pages leaves the keyboard where it is.
+    // A press beside all pages does as one beside the controls of a page.
     addEventListener("mousedown", (event) => {
       if (event.target === this.#stage || event.target === document.body) {
+        event.preventDefault();
+        this.top?.takeKeyboard();
+      }
+    });
+    // A finger that rests asks for nothing, but in a text box.
+    addEventListener("contextmenu", (event) => {
+      const { pointerType, target } = /** @type {PointerEvent} */ (event);
+      if (pointerType === "touch" && !(target instanceof HTMLInputElement)) {
         event.preventDefault();
       }
     });
