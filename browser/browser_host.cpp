@@ -16,6 +16,8 @@
 namespace clinorama::browser {
 namespace {
 
+constexpr int MillisecondsOfFrame = 16;
+
 // Passes on what the user did to a control.
 class Delivery final : public forms::ControlVisitor {
  public:
@@ -125,11 +127,14 @@ std::optional<forms::Color> BrowserHost::ShowColor(forms::Color now) {
 }
 
 // Even a wait of no time gives the browser one turn: without it a motion would be over before
-// anyone saw it.
+// anyone saw it. The steps of a motion between two frames of the screen cannot be seen, and to show
+// them all would take longer than they do.
 void BrowserHost::Wait(int milliseconds) {
   const double end = emscripten_get_now() + milliseconds;
   do {
-    ShowChanges();
+    if (milliseconds >= MillisecondsOfFrame || document::IsFrameDue()) {
+      ShowChanges();
+    }
     document::Turn(std::max(0.0, end - emscripten_get_now()));
     DeliverEvents();
   } while (emscripten_get_now() < end);

@@ -38,6 +38,7 @@ EM_JS(int, js_take_event, (int* kind, int* number, int* value, char** text), {
   stringToUTF8(event.text, HEAP32[text >> 2], size);
   return 1;
 });
+EM_JS(int, js_is_frame_due, (), { return Module.view.queue.isFrameDue(); });
 EM_JS(void, js_at_rest, (), { Module.view.atRest(); });
 EM_ASYNC_JS(void, js_turn, (double milliseconds), { await Module.view.queue.turn(milliseconds); });
 EM_ASYNC_JS(void, js_wait_for_event, (), { await Module.view.queue.event(); });
@@ -98,6 +99,7 @@ std::optional<Event> TakeEvent() {
 void Turn(double milliseconds) { js_turn(milliseconds); }
 void WaitForEvent() { js_wait_for_event(); }
 void WaitForFrame() { js_wait_for_frame(); }
+bool IsFrameDue() { return js_is_frame_due() != 0; }
 void AtRest() { js_at_rest(); }
 
 void ShowBox(const std::string& text, bool information, const std::string& title) {

@@ -56,6 +56,8 @@ std::optional<Event> TakeEvent();
 void Turn(double milliseconds);
 void WaitForEvent();
 void WaitForFrame();
+// Whether the screen has shown a frame since this was true.
+bool IsFrameDue();
 // No handler is on the stack: what a motion has come to can be told.
 void AtRest();
 

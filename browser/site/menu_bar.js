@@ -23,6 +23,8 @@ export class MenuBar {
     for (const item of items) {
       this.#items.push(this.#add(item));
     }
+    // Safari would take the keyboard away from an item that is pressed, and so close the menu.
+    this.element.addEventListener("mousedown", (event) => event.preventDefault());
     this.element.addEventListener("keydown", (event) => this.#key(event));
     this.element.addEventListener("focusout", (event) => {
       if (!this.element.contains(/** @type {Node | null} */ (event.relatedTarget))) {

@@ -151,6 +151,11 @@ export class PageView {
         }
       }
     });
+    // Safari gives no keyboard to what is pressed.
+    this.#client.addEventListener("click", (event) => {
+      const target = /** @type {Element} */ (event.target);
+      /** @type {HTMLElement | null} */ (target.closest(Tabbable))?.focus();
+    });
     this.section.addEventListener("keydown", (event) => this.#key(event), true);
   }
 
@@ -226,7 +231,7 @@ export class PageView {
     header.append(this.#title, close);
     let from = { x: 0, y: 0 };
     header.addEventListener("pointerdown", (event) => {
-      if (event.button === 0 && event.target !== close) {
+      if (event.isPrimary && event.button === 0 && event.target !== close) {
         header.setPointerCapture(event.pointerId);
         from = { x: event.clientX, y: event.clientY };
       }

@@ -19,6 +19,7 @@ export class Queue {
   /** @type {(() => void) | null} */
   #wake = null;
   #ended = false;
+  #frameDue = true;
   // Browsers stretch timers that timers have set, but not messages.
   #channel = new MessageChannel();
 
@@ -86,6 +87,16 @@ export class Queue {
       });
     }
     return this.#resume();
+  }
+
+  /** Whether the screen has shown a frame since this was true. */
+  isFrameDue() {
+    const due = this.#frameDue;
+    if (due) {
+      this.#frameDue = false;
+      requestAnimationFrame(() => (this.#frameDue = true));
+    }
+    return due;
   }
 
   #resume() {

@@ -32,6 +32,12 @@ export class View {
   paintText = paintText;
 
   constructor() {
+    this.#watchSize();
+    this.#watchPresses();
+    this.#watchKeys();
+  }
+
+  #watchSize() {
     let resting = 0;
     const fit = () => {
       this.screen.fit();
@@ -46,6 +52,11 @@ export class View {
     // A graphics card may lose what it holds, as in a sleep.
     this.#stage.addEventListener("contextrestored", fit, true);
     fit();
+  }
+
+  #watchPresses() {
+    this.#stage.addEventListener("pointerdown", (event) => this.#pressBehind(event));
+    this.#stage.addEventListener("click", (event) => this.#clickBehind(event));
     // A press beside the controls leaves the keyboard where it is, or brings it back to the page from
     // a menu or from the browser.
     addEventListener("mousedown", (event) => {
@@ -55,17 +66,10 @@ export class View {
         this.top?.takeKeyboard();
       }
     });
-    this.#stage.addEventListener("pointerdown", (event) => this.#pressBehind(event));
-    this.#stage.addEventListener("click", (event) => this.#clickBehind(event));
-    for (const type of ["keydown", "keyup", "blur"]) {
-      addEventListener(type, (event) => {
-        const { altKey } = /** @type {KeyboardEvent} */ (event);
-        this.#stage.classList.toggle("letters", Boolean(altKey));
-      });
-    }
-    // A key that is held presses a button once.
-    addEventListener("keydown", (event) => {
-      if (event.repeat && event.key === "Enter" && event.target instanceof HTMLButtonElement) {
+    // A finger that rests asks for nothing, but in a text box.
+    addEventListener("contextmenu", (event) => {
+      const { pointerType, target } = /** @type {PointerEvent} */ (event);
+      if (pointerType === "touch" && !(target instanceof HTMLInputElement)) {
         event.preventDefault();
       }
     });
@@ -78,6 +82,21 @@ export class View {
         }
       });
     }
+  }
+
+  #watchKeys() {
+    for (const type of ["keydown", "keyup", "blur"]) {
+      addEventListener(type, (event) => {
+        const { altKey } = /** @type {KeyboardEvent} */ (event);
+        this.#stage.classList.toggle("letters", Boolean(altKey));
+      });
+    }
+    // A key that is held presses a button once.
+    addEventListener("keydown", (event) => {
+      if (event.repeat && event.key === "Enter" && event.target instanceof HTMLButtonElement) {
+        event.preventDefault();
+      }
+    });
   }
 
   density() {
@@ -177,7 +196,6 @@ export class View {
   #clickBehind({ target, clientX, clientY }) {
     const pressed = document.elementFromPoint(clientX, clientY);
     if (target === this.#stage && pressed === this.#pressed && pressed instanceof HTMLElement) {
-      pressed.closest(/** @type {"input"} */ ("input, button"))?.focus();
       pressed.click();
     }
   }

@@ -170,6 +170,31 @@ test("a held bar holds the motion", async () => {
   await expectMotion("Form12");
 });
 
+test("a finger holds the motion, and two zoom", async () => {
+  await startOnWorkPage({ hasTouch: true, isMobile: true });
+  const { context, page } = program;
+  const session = await context.newCDPSession(page);
+  const touch = (type, ...touchPoints) =>
+    session.send("Input.dispatchTouchEvent", { type, touchPoints });
+  await plot();
+  await control("Form12", "Calcular").tap();
+  const bar = await control("Form12", "HScroll1").locator("input").boundingBox();
+  await touch("touchStart", { x: bar.x + bar.width / 2, y: bar.y + bar.height / 2 });
+  await expectStandstill("Form12");
+  await touch("touchCancel");
+  await expectMotion("Form12");
+  const { x, y } = await program.pageOf("Form12").boundingBox();
+  const two = (apart) => [-apart, apart].map((by, id) => ({ x: 300 + by, y: y + 10, id }));
+  await touch("touchStart", ...two(40));
+  for (const apart of [60, 80, 100]) {
+    await touch("touchMove", ...two(apart));
+  }
+  await touch("touchEnd");
+  await page.waitForFunction(() => visualViewport.scale > 1.2);
+  const left = await program.pageOf("Form12").evaluate((section) => parseFloat(section.style.left));
+  assert.ok(Math.abs(left - x) < 40, "the page was dragged away");
+});
+
 test("a page closes in a pause inside a motion", async () => {
   await startOnWorkPage();
   await plot();
@@ -275,6 +300,12 @@ test("keys and presses do what they do on the desktop", async () => {
   await program.pageOf("Form5").and(program.page.locator(":not([inert])")).waitFor();
   await mouse.click(x + width - 5, y + 20);
   await radians.getByText("Unidades").waitFor();
+  assert.equal(await holder(), "EixosRad");
+  const close = program.pageOf("Form12").getByRole("menuitem", { name: "Fechar esta página" });
+  await program.choose("Form12", "Ficheiro");
+  await close.waitFor();
+  await control("Form12", "Picture1").click();
+  await close.waitFor({ state: "hidden" });
   assert.equal(await holder(), "EixosRad");
   await press("Alt+f"); // Ficheiro
   await press("f"); // Fechar esta página
