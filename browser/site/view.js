@@ -57,8 +57,8 @@ export class View {
   #watchPresses() {
     this.#stage.addEventListener("pointerdown", (event) => this.#pressBehind(event));
     this.#stage.addEventListener("click", (event) => this.#clickBehind(event));
-    // A press beside the controls leaves the keyboard where it is, or brings it back to the page from
-    // a menu or from the browser.
+    // A press beside the controls leaves the keyboard where it is, or brings it back to the page,
+    // from a menu or from the browser.
     addEventListener("mousedown", (event) => {
       const target = /** @type {Element} */ (event.target);
       if (target.closest(":not(header) > button, input, label, [tabindex='0']") === null) {

@@ -1,6 +1,7 @@
 // Keeps the whole program for use without a network. The build puts in the version and the files,
 // so that another version is another worker: it fetches its files while the present version is in
-// use, and takes over when no tab shows that any more, as files of two versions do not fit together.
+// use, and takes over when no tab shows that any more, as files of two versions do not fit
+// together.
 
 const Version = "VERSION";
 const Files = ["FILES"];
