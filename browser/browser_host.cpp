@@ -58,12 +58,13 @@ void BrowserHost::Shown(forms::Page& page) {
   document::ShowPage(numbers_.Of(&page));
 }
 
-// Shows all of them, as what was drawn before the document knew of the page was not shown.
+// Shows all that they hold: the document does not know it yet, or no longer.
 void BrowserHost::FitSurfaces(forms::Control& container) {
   for (forms::Control* child : container.Children()) {
     if (auto* picture = dynamic_cast<forms::PictureBox*>(child)) {
       picture->Density(Density());
-      Drawn(*picture);
+      picture->TakeDirty();
+      document::Put(numbers_.Of(picture), picture->Screen(), picture->Screen().Bounds());
     }
     FitSurfaces(*child);
   }

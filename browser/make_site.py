@@ -64,7 +64,8 @@ def name_files(folder):
     for path in [worker, *files]:
         version.update(path.relative_to(folder).as_posix().encode())
         version.update(path.read_bytes())
-    names = ["./"] + [path.relative_to(folder).as_posix() for path in files]
+    names = [path.relative_to(folder).as_posix() for path in files]
+    names[names.index("index.html")] = "./"
     text = worker.read_text(encoding="utf-8")
     text = text.replace('"VERSION"', json.dumps("clinorama-" + version.hexdigest()[:12]))
     worker.write_text(text.replace('["FILES"]', json.dumps(names)), encoding="utf-8")

@@ -15,6 +15,10 @@ import { EventKind } from "./queue.js";
  * @property {() => void} [lock] before it is locked or hidden
  */
 
+const LongestText = 32767; // as on the desktop
+
+const MillisecondsToLoadAgain = 3000;
+
 /** The words of pictures, by the pictures' names. @type {Record<string, string>} */
 let words = {};
 
@@ -117,6 +121,7 @@ const Makers = {
     element.autocapitalize = "off";
     element.setAttribute("autocorrect", "off");
     element.spellcheck = false;
+    element.maxLength = LongestText;
     element.addEventListener("input", () => page.tell(EventKind.Type, number, 0, element.value));
     return {
       element,
@@ -133,9 +138,7 @@ const Makers = {
 
   button(/** @type {ButtonState} */ { number, picture }, page) {
     const element = document.createElement("button");
-    const icon = document.createElement("img");
-    icon.alt = "";
-    icon.draggable = false;
+    const icon = makePicture();
     const caption = document.createElement("span");
     if (picture !== "") {
       icon.src = pathOf(picture);
@@ -143,12 +146,6 @@ const Makers = {
     }
     element.append(caption);
     element.addEventListener("click", () => page.tell(EventKind.Click, number));
-    // A key that is held presses once.
-    element.addEventListener("keydown", (event) => {
-      if (event.key === "Enter" && event.repeat) {
-        event.preventDefault();
-      }
-    });
     return {
       element,
       show(/** @type {ButtonState} */ state, screen) {
@@ -215,8 +212,7 @@ const Makers = {
 
   // A picture is loaded when it is first seen. That of a text is read as the text.
   image(/** @type {ImageState} */ { picture, spoken }) {
-    const image = document.createElement("img");
-    image.draggable = false;
+    const image = makePicture();
     const load = (/** @type {ImageState} */ state) => {
       if (state.visible && picture !== "" && !image.hasAttribute("src")) {
         image.src = pathOf(picture);
@@ -231,7 +227,6 @@ const Makers = {
     element.className = "image";
     element.role = "document";
     element.tabIndex = 0;
-    image.alt = "";
     const text = document.createElement("p");
     text.className = "unseen";
     text.textContent = words[picture];
@@ -267,6 +262,17 @@ const Makers = {
     return { element };
   },
 };
+
+// Without a network a picture is asked for again.
+function makePicture() {
+  const image = document.createElement("img");
+  image.alt = "";
+  image.draggable = false;
+  image.addEventListener("error", () => {
+    setTimeout(() => (image.src = image.src), MillisecondsToLoadAgain);
+  });
+  return image;
+}
 
 /** @param {string} picture */
 function pathOf(picture) {

@@ -4,7 +4,7 @@
  * Shows a box, and resolves with the value of the button that the user chose, or "".
  * @param {string} title
  * @param {(Node | string)[]} content
- * @param {[text: string, value: string][]} buttons the first is chosen by the return key
+ * @param {[text: string, value: string][]} buttons the first is what the return key chooses
  * @returns {Promise<string>}
  */
 function ask(title, content, buttons) {
@@ -22,6 +22,12 @@ function ask(title, content, buttons) {
     button.autofocus = value === buttons[0][1];
     button.addEventListener("click", () => dialog.close(value));
   }
+  dialog.addEventListener("keydown", (event) => {
+    if (event.key === "Enter" && event.target instanceof HTMLInputElement) {
+      event.preventDefault(); // or else what gets the keyboard now takes it
+      dialog.close(buttons[0][1]);
+    }
+  });
   return new Promise((resolve) => {
     dialog.addEventListener("close", () => {
       dialog.remove();

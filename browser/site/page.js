@@ -151,14 +151,6 @@ export class PageView {
         }
       }
     });
-    // A click beside the controls leaves the keyboard where it is, or takes it back from a menu.
-    this.section.addEventListener("mousedown", (event) => {
-      const target = /** @type {Element} */ (event.target);
-      if (target.closest("input, button, label, [tabindex='0']") === null) {
-        event.preventDefault();
-        this.takeKeyboard();
-      }
-    });
     // Safari gives no keyboard to what is pressed.
     this.#client.addEventListener("click", (event) => {
       const target = /** @type {Element} */ (event.target);
@@ -172,15 +164,16 @@ export class PageView {
     const letter = event.key.toLowerCase();
     /** @type {Record<string, number>} */
     const buttons = { PageUp: this.state.pageUp, PageDown: this.state.pageDown };
+    const alone = !event.ctrlKey && !event.altKey && !event.shiftKey && !event.metaKey;
     const inMenu = this.#bar?.element.contains(/** @type {Node} */ (event.target));
-    if (buttons[event.key]) {
-      this.#once(event, EventKind.Click, buttons[event.key]);
+    if (alone && buttons[event.key]) {
+      this.#once(event, () => this.tell(EventKind.Click, buttons[event.key]));
     } else if (
-      (event.key === "Escape" && this.state.closedByEscape && !inMenu) ||
+      (alone && event.key === "Escape" && this.state.closedByEscape && !inMenu) ||
       (letter === "w" && event.ctrlKey)
     ) {
-      this.#once(event, EventKind.Close, this.number);
-    } else if (event.key === "F10" && this.#bar !== null) {
+      this.#once(event, () => this.#close());
+    } else if (alone && event.key === "F10" && this.#bar !== null) {
       event.preventDefault();
       this.#bar.open();
     } else if (event.altKey && !event.ctrlKey && this.#bar?.press(letter)) {
@@ -191,13 +184,20 @@ export class PageView {
     }
   }
 
-  /** @param {KeyboardEvent} event @param {number} kind @param {number} number */
-  #once(event, kind, number) {
+  /** @param {KeyboardEvent} event @param {() => void} act */
+  #once(event, act) {
     event.preventDefault();
     event.stopPropagation();
     if (!event.repeat) {
-      this.tell(kind, number);
+      act();
     }
+  }
+
+  #close() {
+    for (const { parts } of this.#controls.values()) {
+      parts.lock?.();
+    }
+    this.tell(EventKind.Close, this.number);
   }
 
   // From the empty ground the tabulator goes on where the keyboard was.
@@ -227,7 +227,7 @@ export class PageView {
     close.textContent = "✕";
     close.ariaLabel = close.title = "Fechar";
     close.tabIndex = -1;
-    close.addEventListener("click", () => this.tell(EventKind.Close, this.number));
+    close.addEventListener("click", () => this.#close());
     header.append(this.#title, close);
     let from = { x: 0, y: 0 };
     header.addEventListener("pointerdown", (event) => {

@@ -35,6 +35,12 @@ export class Queue {
     return this.#events.shift();
   }
 
+  /** Forgets what was pressed. */
+  dropPresses() {
+    const { Click, DoubleClick, Close } = EventKind;
+    this.#events = this.#events.filter(({ kind }) => ![Click, DoubleClick, Close].includes(kind));
+  }
+
   /** Whether something that the user did to a control waits. @param {number} number */
   holds(number) {
     return this.#events.some((event) => event.number === number);
@@ -72,10 +78,13 @@ export class Queue {
     return this.#resume();
   }
 
-  /** Resumes when the screen has shown a frame; at once where nothing is to be seen. */
+  /** Resumes when the screen has shown a frame, or when nothing is to be seen. */
   async frame() {
     if (!document.hidden) {
-      await new Promise((resolve) => requestAnimationFrame(resolve));
+      await new Promise((resolve) => {
+        requestAnimationFrame(resolve);
+        document.onvisibilitychange = resolve;
+      });
     }
     return this.#resume();
   }

@@ -15,15 +15,14 @@ const fail = (/** @type {unknown} */ reason) => {
 addEventListener("error", (event) => fail(event.error ?? event.message));
 addEventListener("unhandledrejection", (event) => fail(event.reason));
 
-const [words] = await Promise.all([
-  fetch("words.json").then((answer) => answer.json()),
-  ...Fonts.map((font) => document.fonts.load(font)),
-]);
-setWords(words);
+// Some schools let no fonts through: then the browser's own must do.
+const fonts = Promise.allSettled(Fonts.map((font) => document.fonts.load(font)));
+setWords(await (await fetch("words.json")).json());
+await fonts;
 await start({ view, onAbort: fail });
-document.documentElement.dataset.started = "";
 
-// Where there is no secure connection there are no workers: the program runs all the same.
-if ("serviceWorker" in navigator) {
-  await navigator.serviceWorker.register("worker.js").catch((reason) => console.warn(reason));
+try {
+  await navigator.serviceWorker.register("worker.js");
+} catch (reason) {
+  console.warn(reason); // as without a secure connection: the program runs all the same
 }

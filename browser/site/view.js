@@ -18,6 +18,8 @@ export class View {
   #pages = [];
   /** The page that has been told to be the active one. @type {PageView | undefined} */
   #active;
+  /** What the last press on a page behind the others was on. @type {Element | null} */
+  #pressed = null;
   /** Those of values, to be announced. @type {Set<ControlView>} */
   #values = new Set();
   /** What is told next. @type {string[]} */
@@ -30,6 +32,12 @@ export class View {
   paintText = paintText;
 
   constructor() {
+    this.#watchSize();
+    this.#watchPresses();
+    this.#watchKeys();
+  }
+
+  #watchSize() {
     let resting = 0;
     const fit = () => {
       this.screen.fit();
@@ -41,10 +49,19 @@ export class View {
       }, MillisecondsToRest);
     };
     addEventListener("resize", fit);
+    // A graphics card may lose what it holds, as in a sleep.
+    this.#stage.addEventListener("contextrestored", fit, true);
     fit();
-    // A press beside all pages does as one beside the controls of a page.
+  }
+
+  #watchPresses() {
+    this.#stage.addEventListener("pointerdown", (event) => this.#pressBehind(event));
+    this.#stage.addEventListener("click", (event) => this.#clickBehind(event));
+    // A press beside the controls leaves the keyboard where it is, or brings it back to the page,
+    // from a menu or from the browser.
     addEventListener("mousedown", (event) => {
-      if (event.target === this.#stage || event.target === document.body) {
+      const target = /** @type {Element} */ (event.target);
+      if (target.closest(":not(header) > button, input, label, [tabindex='0']") === null) {
         event.preventDefault();
         this.top?.takeKeyboard();
       }
@@ -56,12 +73,30 @@ export class View {
         event.preventDefault();
       }
     });
-    this.#stage.addEventListener("pointerdown", (event) => this.#pressBehind(event));
-    for (const type of ["keydown", "keyup"]) {
+    // The browser would open what is dropped on the program. A text may be dropped on a text box.
+    for (const type of ["dragover", "drop"]) {
       addEventListener(type, (event) => {
-        this.#stage.classList.toggle("letters", /** @type {KeyboardEvent} */ (event).altKey);
+        const { target, dataTransfer } = /** @type {DragEvent} */ (event);
+        if (!(target instanceof HTMLInputElement) || dataTransfer?.types.includes("Files")) {
+          event.preventDefault();
+        }
       });
     }
+  }
+
+  #watchKeys() {
+    for (const type of ["keydown", "keyup", "blur"]) {
+      addEventListener(type, (event) => {
+        const { altKey } = /** @type {KeyboardEvent} */ (event);
+        this.#stage.classList.toggle("letters", Boolean(altKey));
+      });
+    }
+    // A key that is held presses a button once.
+    addEventListener("keydown", (event) => {
+      if (event.repeat && event.key === "Enter" && event.target instanceof HTMLButtonElement) {
+        event.preventDefault();
+      }
+    });
   }
 
   density() {
@@ -142,6 +177,7 @@ export class View {
   // A press on a page behind another one brings it to the front, and is a press on what lies there.
   /** @param {PointerEvent} event */
   #pressBehind({ target, clientX, clientY }) {
+    this.#pressed = null;
     if (target !== this.#stage) {
       return;
     }
@@ -149,21 +185,19 @@ export class View {
       const { left, right, top, bottom } = section.getBoundingClientRect();
       return shown && clientX >= left && clientX < right && clientY >= top && clientY < bottom;
     });
-    if (page === undefined) {
-      return;
+    if (page !== undefined) {
+      this.#raise(page);
+      this.#pressed = document.elementFromPoint(clientX, clientY);
     }
-    this.#raise(page);
-    this.#stage.addEventListener(
-      "click",
-      () => {
-        const pressed = document.elementFromPoint(clientX, clientY)?.closest("input, button");
-        if (pressed instanceof HTMLElement) {
-          pressed.focus();
-          pressed.click();
-        }
-      },
-      { once: true },
-    );
+  }
+
+  // As that press was on the stage, so is the click.
+  /** @param {MouseEvent} event */
+  #clickBehind({ target, clientX, clientY }) {
+    const pressed = document.elementFromPoint(clientX, clientY);
+    if (target === this.#stage && pressed === this.#pressed && pressed instanceof HTMLElement) {
+      pressed.click();
+    }
   }
 
   // Controls.
@@ -230,7 +264,9 @@ export class View {
 
   /** No handler is on the stack: the values of a motion have come to their end. */
   atRest() {
-    const values = [...this.#values].map(({ state }) => /** @type {LabelState} */ (state));
+    const values = [...this.#values]
+      .filter(({ element }) => element.isConnected)
+      .map(({ state }) => /** @type {LabelState} */ (state));
     this.#values.clear();
     this.announce(...values.filter(({ text }) => text !== "").map(({ spoken }) => spoken));
   }
@@ -238,16 +274,24 @@ export class View {
   // Boxes.
 
   /** @param {string} text @param {boolean} information @param {string} title */
-  async box(text, information, title) {
-    await showBox(text, information, title);
-    this.top?.takeKeyboard();
+  box(text, information, title) {
+    return this.#alone(showBox(text, information, title));
   }
 
   /** @param {number} now */
-  async chooseColor(now) {
-    const color = await chooseColor(now);
+  chooseColor(now) {
+    return this.#alone(chooseColor(now));
+  }
+
+  // A box is to be answered first: what the user pressed on a page before it came is not done, and
+  // marks show again what the program knows.
+  /** @template T @param {Promise<T>} answer */
+  async #alone(answer) {
+    this.queue.dropPresses();
+    this.#pages.forEach((page) => page.fit());
+    await answer;
     this.top?.takeKeyboard();
-    return color;
+    return answer;
   }
 
   /** The end of the program. @param {string} words */

@@ -1,6 +1,7 @@
 // Keeps the whole program for use without a network. The build puts in the version and the files,
 // so that another version is another worker: it fetches its files while the present version is in
-// use, and the next visit is to the new one.
+// use, and takes over when no tab shows that any more, as files of two versions do not fit
+// together.
 
 const Version = "VERSION";
 const Files = ["FILES"];
@@ -11,7 +12,6 @@ worker.addEventListener("install", (/** @type {any} */ event) => {
   const keep = async () => {
     const cache = await caches.open(Version);
     await cache.addAll(Files.map((file) => new Request(file, { cache: "no-cache" })));
-    await worker.skipWaiting();
   };
   event.waitUntil(keep());
 });
@@ -21,6 +21,7 @@ worker.addEventListener("activate", (/** @type {any} */ event) => {
     const names = await caches.keys();
     const others = names.filter((name) => name.startsWith("clinorama-") && name !== Version);
     await Promise.all(others.map((name) => caches.delete(name)));
+    await worker.clients.claim(); // the tab of the first visit
   };
   event.waitUntil(dropOthers());
 });
@@ -28,7 +29,9 @@ worker.addEventListener("activate", (/** @type {any} */ event) => {
 worker.addEventListener("fetch", (/** @type {any} */ event) => {
   const answer = async () => {
     const cache = await caches.open(Version);
-    const kept = await cache.match(event.request, { ignoreSearch: true });
+    // Some servers know the document by the folder's name only.
+    const address = event.request.url.replace(/index\.html(?=$|[?#])/, "");
+    const kept = await cache.match(address, { ignoreSearch: true, ignoreVary: true });
     return kept ?? fetch(event.request);
   };
   event.respondWith(answer());
