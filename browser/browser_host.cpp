@@ -18,6 +18,10 @@ namespace {
 
 constexpr int MillisecondsOfFrame = 16;
 
+// A motion that waits for nothing makes so many steps from one frame of the screen to the next: the
+// tangent then runs along a graph in four seconds, as it does on the desktop.
+constexpr int StepsToFrame = 100;
+
 // Passes on what the user did to a control.
 class Delivery final : public forms::ControlVisitor {
  public:
@@ -132,7 +136,11 @@ std::optional<forms::Color> BrowserHost::ShowColor(forms::Color now) {
 void BrowserHost::Wait(int milliseconds) {
   const double end = emscripten_get_now() + milliseconds;
   do {
+    if (++stepsOfFrame_ > StepsToFrame) {
+      document::WaitForFrame();
+    }
     if (milliseconds >= MillisecondsOfFrame || document::IsFrameDue()) {
+      stepsOfFrame_ = 0;
       ShowChanges();
     }
     document::Turn(std::max(0.0, end - emscripten_get_now()));

@@ -42,6 +42,7 @@ class BrowserHost final : public forms::Host {
   Numbers numbers_;
   std::set<int> changed_;  // controls, until the changes are shown
   std::set<int> drawn_;    // surfaces
+  int stepsOfFrame_ = 0;   // of motions, since changes were shown
 };
 
 }  // namespace clinorama::browser

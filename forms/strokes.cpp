@@ -42,6 +42,9 @@ bool Strokes::TakesAway(const Stroke& stroke, std::span<const Place> places) con
 }
 
 void Strokes::DropPassing() {
+  if (std::all_of(runs_.begin(), runs_.end(), [](const Run& run) { return run.Look.Kept; })) {
+    return;
+  }
   Strokes kept;
   kept.complete_ = complete_;
   ForEach([&](const Stroke& stroke, std::span<const Place> places, const Writing* writing) {
