@@ -78,6 +78,7 @@ Fit PageWindow::FitTo(const QScreen& screen) {
 
 void PageWindow::FitOnce(const QScreen& screen) {
   const Fit fit = FitTo(screen);
+  // Screens of the same zoom may differ in their pixels.
   for (const auto& [control, view] : views_) {
     if (auto* picture = dynamic_cast<forms::PictureBox*>(control)) {
       picture->Density(fit.Zoom * screen.devicePixelRatio());

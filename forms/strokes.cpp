@@ -15,9 +15,11 @@ void Strokes::Add(const Stroke& stroke, std::span<const Place> places, const Wri
     }
     return;
   }
-  if (!complete_ || places_.size() + places.size() > MostPlaces) {
+  if (places_.size() + places.size() > MostPlaces) {
     Clear();
     complete_ = false;
+  }
+  if (!complete_) {
     return;
   }
   if (runs_.empty() || runs_.back().Look != stroke) {

@@ -114,7 +114,7 @@ class Surface {
   double Density() const { return density_; }
   // Paints both pictures anew with so many device pixels to a logical one, above 0. They become
   // what they would be had it always been so. Where too much was drawn to be remembered, the
-  // density stays as it is until the surface is wiped.
+  // call changes nothing; one after the surface was wiped does.
   void Density(double density);
   // The device pixels of the screen that have changed since the last call.
   PixelRect TakeDirty();

@@ -193,6 +193,7 @@ export class PageView {
     }
   }
 
+  // A bar that is held is let go first: the motion that it holds could not end otherwise.
   #close() {
     for (const { parts } of this.#controls.values()) {
       parts.lock?.();
